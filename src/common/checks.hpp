@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+// Checks of arguments, for the head of a public function, before any work is done.
+//
+// Each takes the argument's name first and throws std::invalid_argument (ValueError in Python) with
+// a message of one style: "data: expected 120 values, one per location, got 118". They are for what
+// would otherwise read outside memory, divide by zero, hang or give noise; nothing that has a defined
+// result is refused.
+
+#include <cstddef>
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "common/location.hpp"
+
+namespace gravelox {
+
+/// `size` values where `expected` are wanted; `per` says one for each of what ("location").
+void check_same_size(std::string_view name, std::size_t size, std::size_t expected,
+                     std::string_view per);
+
+/// At least one value.
+void check_not_empty(std::string_view name, std::size_t size);
+
+/// A number above 0 and finite.
+void check_positive(std::string_view name, double value);
+
+/// A whole number of at least `least`.
+void check_at_least(std::string_view name, long long value, long long least);
+
+/// An index in 0..size-1.
+void check_index(std::string_view name, long long index, std::size_t size);
+
+/// No NaN and no infinity; the message names the first offending position.
+void check_finite(std::string_view name, double value);
+void check_finite(std::string_view name, const location& value);
+void check_finite(std::string_view name, std::span<const double> values);
+void check_finite(std::string_view name, const location_list& values);
+
+}  // namespace gravelox

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+// The one place that opens a parallel region for a loop over result slots.
+
+#include <omp.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <exception>
+#include <mutex>
+
+#include "common/threads.hpp"
+
+namespace gravelox {
+
+/// The number of buffers that a loop with this request needs, one a thread: at least 1, and at
+/// least every thread number that parallel_for hands out, plus one.
+inline std::size_t n_thread_slots(int n_threads) {
+  return static_cast<std::size_t>(std::max(check_n_threads(n_threads), 1));
+}
+
+/// Keeps the exception of the lowest index among those thrown by the iterations of a loop.
+class first_exception {
+ public:
+  void keep(std::size_t index) {
+    const std::lock_guard lock(mutex_);
+    if (!exception_ || index < index_) {
+      exception_ = std::current_exception();
+      index_ = index;
+    }
+  }
+
+  void rethrow() const {
+    if (exception_) std::rethrow_exception(exception_);
+  }
+
+ private:
+  std::mutex mutex_;
+  std::exception_ptr exception_;
+  std::size_t index_ = 0;
+};
+
+/// Calls body(index, thread_number) for each index in 0..n-1, in contiguous blocks of indices, one
+/// block a thread, on check_n_threads(n_threads) threads.
+///
+/// Thread numbers run from 0 and stay below n_thread_slots(n_threads). A loop of one thread or one
+/// index opens no region at all, so that a process forked after a parallel run can still call it;
+/// a loop inside another loop's body runs on the calling thread. An exception in a body lets the
+/// loop end; the one of the lowest index is then thrown on the calling thread.
+template <typename Body>
+void parallel_for(std::size_t n, int n_threads, const Body& body) {
+  const std::size_t threads = omp_in_parallel() ? 1 : std::min(n_thread_slots(n_threads), n);
+  if (threads <= 1) {
+    for (std::size_t i = 0; i < n; ++i) body(i, 0);
+    return;
+  }
+  first_exception failure;
+  const auto end = static_cast<std::int64_t>(n);
+#pragma omp parallel for num_threads(static_cast<int>(threads)) schedule(static)
+  for (std::int64_t i = 0; i < end; ++i) {
+    const auto index = static_cast<std::size_t>(i);
+    try {
+      body(index, omp_get_thread_num());
+    } catch (...) {
+      failure.keep(index);
+    }
+  }
+  failure.rethrow();
+}
+
+}  // namespace gravelox

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#include "module/casters.hpp"
+
+#include <memory>
+#include <mutex>
+
+#include "module/families.hpp"
+#include "module/python_callback.hpp"
+#include "spectra/fft_threads.hpp"
+
+PYBIND11_MODULE(gravelox, m) {
+  gravelox::python_callback_mutex = std::make_shared<std::mutex>();
+  gravelox::set_fft_n_threads();
+  gravelox::register_frame_module(m);
+  gravelox::register_spatial_module(m);
+  gravelox::register_covariance_module(m);
+  gravelox::register_grid_module(m);
+  gravelox::register_estimation_module(m);
+}

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+// Numbers at the boundary. Included by casters.hpp only, right after pybind11's own casters.
+//
+// The stock casters know Python's int and float alone: a numpy.float32 would fail the strict pass over
+// the overloads and, in the lenient one, be truncated into the first overload that takes an int.
+// Here a numpy scalar goes where a Python number of its value would go.
+
+#include <pybind11/gil_safe_call_once.h>
+
+#include <limits>
+
+namespace pybind11::detail {
+
+/// Whether the object is a numpy floating scalar that is not a Python float too.
+inline bool is_numpy_floating(handle source) {
+  static gil_safe_call_once_and_store<object> storage;
+  const object& floating = storage
+                               .call_once_and_store_result([] {
+                                 const auto numpy =
+                                     reinterpret_steal<object>(PyImport_ImportModule("numpy"));
+                                 if (!numpy) throw error_already_set();
+                                 return static_cast<object>(numpy.attr("floating"));
+                               })
+                               .get_stored();
+  return PyObject_IsInstance(source.ptr(), floating.ptr()) == 1;
+}
+
+/// Floats strictly: Python floats and numpy floating scalars. Otherwise anything with __float__ or
+/// __index__, as in the stock caster.
+template <>
+class type_caster<double> {
+ public:
+  PYBIND11_TYPE_CASTER(double, const_name("float"));
+
+  bool load(handle source, bool convert) {
+    if (!source) return false;
+    if (PyFloat_Check(source.ptr())) {
+      value = PyFloat_AS_DOUBLE(source.ptr());
+      return true;
+    }
+    if (!convert && !is_numpy_floating(source)) return false;
+    value = PyFloat_AsDouble(source.ptr());
+    if (value == -1.0 && PyErr_Occurred() != nullptr) {
+      PyErr_Clear();
+      return false;
+    }
+    return true;
+  }
+
+  static handle cast(double source, return_value_policy /*policy*/, handle /*parent*/) {
+    return PyFloat_FromDouble(source);
+  }
+};
+
+/// Whole numbers of 32 bits: anything with __index__, and so never a float.
+template <>
+class type_caster<int> {
+ public:
+  PYBIND11_TYPE_CASTER(int, const_name("int"));
+
+  bool load(handle source, bool /*convert*/) {
+    if (!source || PyIndex_Check(source.ptr()) == 0) return false;
+    const object whole = reinterpret_steal<object>(PyNumber_Index(source.ptr()));
+    int overflow = 0;
+    const long number = whole ? PyLong_AsLongAndOverflow(whole.ptr(), &overflow) : 0;
+    if (PyErr_Occurred() != nullptr) {
+      PyErr_Clear();
+      return false;
+    }
+    if (overflow != 0 || number < std::numeric_limits<int>::min() ||
+        number > std::numeric_limits<int>::max()) {
+      return false;
+    }
+    value = static_cast<int>(number);
+    return true;
+  }
+
+  static handle cast(int source, return_value_policy /*policy*/, handle /*parent*/) {
+    return PyLong_FromLong(source);
+  }
+};
+
+}  // namespace pybind11::detail

@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: MIT
+#include "spatial/dynamic_neighborhood.hpp"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+#include "common/checks.hpp"
+#include "common/integer.hpp"
+#include "spatial/kd_tree_detail.hpp"
+
+namespace gravelox {
+
+namespace {
+
+/// A point cloud that answers for ids which have no location yet, so that a tree can be built with
+/// them: they stand where the last stored point is.
+struct growing_cloud : detail::PointCloud<double> {
+  double kdtree_get_pt(std::size_t id, std::size_t dimension) const {
+    if (points.empty()) return 0.0;
+    return PointCloud::kdtree_get_pt(std::min(id, points.size() - 1), dimension);
+  }
+};
+
+using simple_metric = nanoflann::L2_Simple_Adaptor<double, growing_cloud, double, std::size_t>;
+
+/// Ids without a location are infinitely far, so that no query finds them.
+struct stored_points_metric : simple_metric {
+  using simple_metric::simple_metric;
+
+  double evalMetric(const double* center, std::size_t id, std::size_t size) const {
+    if (id >= data_source.points.size()) return std::numeric_limits<double>::infinity();
+    return simple_metric::evalMetric(center, id, size);
+  }
+};
+
+using tree_type =
+    nanoflann::KDTreeSingleIndexDynamicAdaptor<stored_points_metric, growing_cloud, 3, std::size_t>;
+
+}  // namespace
+
+struct DynamicNeighborhood::index {
+  explicit index(location_list locations)
+      : cloud{{std::move(locations)}}, tree(3, cloud, detail::tree_parameters()) {}
+
+  /// Stores the points and tells the trees one id more than there are.
+  void add(const location_list& points) {
+    const std::size_t first = cloud.points.size();
+    cloud.points.insert(cloud.points.end(), points.begin(), points.end());
+    tree.addPoints(first, cloud.points.size());
+  }
+
+  growing_cloud cloud;
+  tree_type tree;
+};
+
+DynamicNeighborhood::DynamicNeighborhood() : DynamicNeighborhood({}, Ellipsoid(), false) {}
+
+DynamicNeighborhood::DynamicNeighborhood(const Ellipsoid& ellipsoid)
+    : DynamicNeighborhood({}, ellipsoid, true) {}
+
+DynamicNeighborhood::DynamicNeighborhood(const location_list& locations, const Ellipsoid& ellipsoid)
+    : DynamicNeighborhood(locations, ellipsoid, true) {}
+
+DynamicNeighborhood::DynamicNeighborhood(const location_list& locations)
+    : DynamicNeighborhood(locations, Ellipsoid(), false) {}
+
+DynamicNeighborhood::DynamicNeighborhood(const location_list& locations, const Ellipsoid& ellipsoid,
+                                         bool has_ellipsoid)
+    : has_ellipsoid_(has_ellipsoid), ellipsoid_(ellipsoid) {
+  check_finite("locations", locations);
+  index_ = std::make_unique<index>(to_search_space(locations));
+}
+
+DynamicNeighborhood::~DynamicNeighborhood() = default;
+DynamicNeighborhood::DynamicNeighborhood(DynamicNeighborhood&&) noexcept = default;
+DynamicNeighborhood& DynamicNeighborhood::operator=(DynamicNeighborhood&&) noexcept = default;
+
+location DynamicNeighborhood::to_search_space(const location& point) const {
+  return has_ellipsoid_ ? ellipsoid_.forward(point) : point;
+}
+
+location_list DynamicNeighborhood::to_search_space(const location_list& points) const {
+  location_list mapped(points.size());
+  std::transform(points.begin(), points.end(), mapped.begin(),
+                 [this](const location& point) { return to_search_space(point); });
+  check_finite("points under the ellipsoid", mapped);
+  return mapped;
+}
+
+std::vector<std::size_t> DynamicNeighborhood::find_neighbors(const location& center,
+                                                             int max_size) const {
+  check_finite("center", center);
+  check_at_least("max_size", max_size, 0);
+  neighbor_buffer buffer;
+  detail::search_by_count(index_->tree, to_search_space(center),
+                          std::min(to_size(max_size), size()), buffer);
+  return std::move(buffer.ids);
+}
+
+std::vector<std::size_t> DynamicNeighborhood::find_neighbors(const location& center,
+                                                             double max_radius) const {
+  check_finite("center", center);
+  neighbor_buffer buffer;
+  const auto eps = static_cast<float>(max_radius * max_radius);
+  detail::search_by_radius(index_->tree, to_search_space(center), max_radius, eps, buffer.found);
+  detail::store(buffer.found, buffer);
+  return std::move(buffer.ids);
+}
+
+std::size_t DynamicNeighborhood::nearest_neighbor(const location& point) const {
+  check_not_empty("locations of the neighbourhood", size());
+  return find_neighbors(point, 1).front();
+}
+
+void DynamicNeighborhood::add_point(const location& point) {
+  check_finite("point", point);
+  index_->add(to_search_space(location_list{point}));
+}
+
+void DynamicNeighborhood::add_points(const location_list& points) {
+  check_finite("points", points);
+  index_->add(to_search_space(points));
+}
+
+void DynamicNeighborhood::remove_point(int id) {
+  check_at_least("id", id, 0);
+  index_->tree.removePoint(to_size(id));
+}
+
+std::size_t DynamicNeighborhood::size() const { return index_->cloud.points.size(); }
+
+}  // namespace gravelox

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+// Nearest-neighbour and radius queries over a fixed list of locations, in the space of an optional
+// ellipsoid: a radius of 1 under an ellipsoid means the ellipsoid itself.
+
+#include <cstddef>
+#include <memory>
+#include <vector>
+
+#include "common/location.hpp"
+#include "spatial/ellipsoid.hpp"
+#include "spatial/neighbor_buffer.hpp"
+
+namespace gravelox {
+
+/// A k-d tree over copies of the locations. Ids are positions in the list.
+///
+/// No query is exact: a subtree is entered only if eleven times the squared distance to its region is
+/// at most the current worst squared distance. Close points across a split can be missed; estimates
+/// depend on this, and it stays. Of points at equal distance the one met first comes first, whatever
+/// its id.
+///
+/// Copies share the tree, which never changes. Many threads may query one object at once.
+class Neighborhood {
+ public:
+  /// Both throw std::invalid_argument for coordinates that are not finite, also after the map. An
+  /// empty list is legal: every query finds nothing.
+  Neighborhood(const location_list& locations, const Ellipsoid& ellipsoid);
+  explicit Neighborhood(const location_list& locations);
+
+  /// The max_size nearest (fewer where fewer are stored), nearest first. 0 gives an empty list;
+  /// throws std::invalid_argument for a negative count or a centre that is not finite.
+  std::vector<std::size_t> find_neighbors(const location& center, int max_size) const;
+
+  /// All strictly within the radius, nearest first; one exactly at the radius is left out. A negative
+  /// radius counts by its absolute value. Ties stand in no particular order.
+  std::vector<std::size_t> find_neighbors(const location& center, double max_radius) const;
+
+  /// The same into a buffer, for loops over finite centres.
+  void find_neighbors(const location& center, int max_size, neighbor_buffer& buffer) const;
+  void find_neighbors(const location& center, double max_radius, neighbor_buffer& buffer) const;
+
+  /// The first of find_neighbors(point, 1); throws std::invalid_argument where nothing is stored.
+  std::size_t nearest_neighbor(const location& point) const;
+
+  std::size_t size() const;
+
+ private:
+  struct index;
+
+  location to_search_space(const location& point) const;
+
+  bool has_ellipsoid_;
+  Ellipsoid ellipsoid_;
+  std::shared_ptr<const index> index_;
+};
+
+}  // namespace gravelox

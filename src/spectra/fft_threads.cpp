@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#include "spectra/fft_threads.hpp"
+
+#include <fftw3.h>
+
+#include "common/parallel_for.hpp"
+
+namespace gravelox {
+
+namespace {
+
+bool fft_threads_ready = false;
+
+}  // namespace
+
+std::mutex& fft_mutex() {
+  static std::mutex mutex;
+  return mutex;
+}
+
+void ready_fft_threads() {
+  if (fft_threads_ready) return;
+  fftw_init_threads();
+  fft_threads_ready = true;
+}
+
+void set_fft_n_threads(int n_threads) {
+  const std::lock_guard lock(fft_mutex());
+  ready_fft_threads();
+  fftw_plan_with_nthreads(static_cast<int>(n_thread_slots(n_threads)));
+}
+
+}  // namespace gravelox

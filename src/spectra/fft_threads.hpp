@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+// The thread state of the Fourier transform library, which is process-wide.
+
+#include <mutex>
+
+namespace gravelox {
+
+/// Guards changes of the library's thread state and its planner, neither of which is thread-safe.
+std::mutex& fft_mutex();
+
+/// Readies the library for threads; only the first call does anything. Hold fft_mutex.
+void ready_fft_threads();
+
+/// Sets the number of threads of plans made from now on to check_n_threads(n_threads).
+void set_fft_n_threads(int n_threads = 0);
+
+}  // namespace gravelox

@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: MIT
+#include "variography/cov_computer.hpp"
+
+#include <cmath>
+
+#include "common/integer.hpp"
+#include "variography/kernel_table.hpp"
+
+namespace gravelox {
+
+namespace {
+
+/// Lags are evaluated in whole batches: the places behind the last lag hold zeros.
+std::size_t padded(std::size_t n) { return (n + Kernel::batch - 1) / Kernel::batch * Kernel::batch; }
+
+void grow(Eigen::ArrayXd& array, std::size_t n) {
+  if (array.size() < to_index(n)) array.resize(to_index(n));
+}
+
+/// result[i] = row . (x[i], y[i], z[i])
+void map_axis(const Eigen::RowVector3d& row, const double* x, const double* y, const double* z,
+              std::size_t n, double* result) {
+  const double a = row[0];
+  const double b = row[1];
+  const double c = row[2];
+  for (std::size_t i = 0; i < n; ++i) result[i] = a * x[i] + b * y[i] + c * z[i];
+}
+
+/// Squared distances of the points from (px, py, pz).
+void square_distances(const double* x, const double* y, const double* z, double px, double py,
+                      double pz, std::size_t n, double* result) {
+  for (std::size_t i = 0; i < n; ++i) {
+    const double dx = x[i] - px;
+    const double dy = y[i] - py;
+    const double dz = z[i] - pz;
+    result[i] = dx * dx + dy * dy + dz * dz;
+  }
+}
+
+void take_roots(const double* squares, std::size_t n, double* roots) {
+  for (std::size_t i = 0; i < n; ++i) roots[i] = std::sqrt(squares[i]);
+}
+
+}  // namespace
+
+void lag_buffer::resize(std::size_t n) {
+  size_ = n;
+  for (array* coordinates : {&x_, &y_, &z_, &mapped_x_, &mapped_y_, &mapped_z_}) {
+    grow(*coordinates, n);
+  }
+}
+
+void lag_buffer::set(std::size_t i, const location& lag) {
+  x_[to_index(i)] = lag.x();
+  y_[to_index(i)] = lag.y();
+  z_[to_index(i)] = lag.z();
+}
+
+cov_computer::cov_computer(const std::vector<Covariance>& covs, int n) {
+  for (const Covariance& cov : covs) {
+    const Kernel kernel = n < 0 ? cov.kernel : get_kernel(cov, n);
+    if (groups_.empty() || groups_.back().matrix != cov.ellipsoid.matrix()) {
+      groups_.push_back({cov.ellipsoid.matrix(), {}, false});
+    }
+    groups_.back().structures.push_back({cov.sill, kernel});
+    if (!kernel.takes_squares()) groups_.back().needs_distances = true;
+  }
+}
+
+double cov_computer::operator()(const location& lag) const {
+  double sum = 0.0;
+  for (const group& same : groups_) {
+    const double distance = (same.matrix * lag).norm();
+    for (const structure& s : same.structures) sum += s.sill * s.kernel(distance);
+  }
+  return sum;
+}
+
+const double* cov_computer::to_target(lag_buffer& lags) const { return evaluate(lags, false); }
+
+const double* cov_computer::to_target_and_between(lag_buffer& lags) const {
+  return evaluate(lags, true);
+}
+
+const double* cov_computer::evaluate(lag_buffer& lags, bool between) const {
+  const std::size_t n = lags.size();
+  const std::size_t n_lags = between ? n * (n + 1) / 2 : n;
+  const std::size_t n_padded = padded(n_lags);
+  grow(lags.squares_, n_padded);
+  grow(lags.distances_, n_padded);
+  grow(lags.values_, n_padded);
+  const double* x = lags.mapped_x_.data();
+  const double* y = lags.mapped_y_.data();
+  const double* z = lags.mapped_z_.data();
+  double* squares = lags.squares_.data();
+
+  lags.values_.head(to_index(n_padded)).setZero();
+  lags.squares_.segment(to_index(n_lags), to_index(n_padded - n_lags)).setZero();
+  for (const group& same : groups_) {
+    const auto map = [&](Eigen::Index axis, lag_buffer::array& mapped) {
+      map_axis(same.matrix.row(axis), lags.x_.data(), lags.y_.data(), lags.z_.data(), n,
+               mapped.data());
+    };
+    map(0, lags.mapped_x_);
+    map(1, lags.mapped_y_);
+    map(2, lags.mapped_z_);
+    square_distances(x, y, z, 0.0, 0.0, 0.0, n, squares);
+    if (between) {
+      double* column = squares + n;
+      for (std::size_t j = 0; j + 1 < n; ++j) {
+        const std::size_t below = n - 1 - j;
+        square_distances(x + j + 1, y + j + 1, z + j + 1, x[j], y[j], z[j], below, column);
+        column += below;
+      }
+    }
+    if (same.needs_distances) take_roots(squares, n_padded, lags.distances_.data());
+    for (const structure& s : same.structures) {
+      const lag_buffer::array& argument = s.kernel.takes_squares() ? lags.squares_ : lags.distances_;
+      s.kernel.add_to(argument.data(), n_padded, s.sill, lags.values_.data());
+    }
+  }
+  return lags.values_.data();
+}
+
+cov_computer create_cov_computer(const std::vector<Covariance>& covs, int n) {
+  return cov_computer(covs, n);
+}
+
+}  // namespace gravelox
