@@ -1,0 +1,2 @@
+# SPDX-License-Identifier: MIT
+"""What the runnable examples share."""
