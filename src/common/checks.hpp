@@ -5,8 +5,8 @@
 //
 // Each takes the argument's name first and throws std::invalid_argument (ValueError in Python) with
 // a message of one style: "data: expected 120 values, one per location, got 118". They are for what
-// would otherwise read outside memory, divide by zero, hang or give noise; nothing that has a defined
-// result is refused.
+// would otherwise read outside memory, divide by zero, hang or give noise; nothing that has a
+// defined result is refused.
 
 #include <cstddef>
 #include <span>

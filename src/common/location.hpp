@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-// The point of the whole system: x east, y north, z up, in the user's length unit (metres as a rule).
+// The point of the whole system: x east, y north, z up, in the user's length unit (metres as a
+// rule).
 
 #include <Eigen/Core>
 #include <vector>

@@ -58,7 +58,7 @@ void parallel_for(std::size_t n, int n_threads, const Body& body) {
   }
   first_exception failure;
   const auto end = static_cast<std::int64_t>(n);
-#pragma omp parallel for num_threads(static_cast<int>(threads)) schedule(static)
+#pragma omp parallel for num_threads(static_cast <int>(threads)) schedule(static)
   for (std::int64_t i = 0; i < end; ++i) {
     const auto index = static_cast<std::size_t>(i);
     try {

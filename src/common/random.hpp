@@ -61,11 +61,13 @@ class float_normal_distribution {
   float second_ = 0.0F;
 };
 
-/// A gamma draw of whole shape, 1 to 19, and a scale: -log of the product of `shape` uniforms, times
-/// the scale. The first factor is taken as it comes, later ones are drawn again where they are 0.
+/// A gamma draw of whole shape, 1 to 19, and a scale: -log of the product of `shape` uniforms,
+/// times the scale. The first factor is taken as it comes, later ones are drawn again where they
+/// are 0.
 double gamma(random_engine& engine, int shape, double scale);
 
-/// A whole number in 0..n-1, all equally likely, by multiply and reject (Lemire, 2019); n at least 1.
+/// A whole number in 0..n-1, all equally likely, by multiply and reject (Lemire, 2019); n at
+/// least 1.
 std::uint32_t uniform_index(random_engine& engine, std::uint32_t n);
 
 /// Shuffles in place by Fisher-Yates from the second element upwards: element i changes places with

@@ -34,8 +34,8 @@ struct alignas(64) thread_scratch {
   Scratch own;
 };
 
-/// Calls body(index, target, neis, scratch) for each target in parallel, neis being the getter's list
-/// and scratch the thread's own buffers.
+/// Calls body(index, target, neis, scratch) for each target in parallel, neis being the getter's
+/// list and scratch the thread's own buffers.
 template <typename Scratch, typename Body>
 void for_each_target(const location_list& target_locs, const nei_getter& getter, int n_threads,
                      const Body& body) {

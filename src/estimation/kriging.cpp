@@ -154,9 +154,9 @@ Estimator create_ok_estimator(const std::vector<Covariance>& covs, int max_neigh
                               const std::vector<int>& dhids, int max_neis_by_dhid) {
   return [=](const location_list& target_locs, const Neighborhood& neighborhood,
              const location_list& data_locs, const std::vector<double>& data, int n_threads) {
-    return std::get<0>(compute_ordinary_kriging(
-        target_locs, data_locs, data, covs, neighborhood, max_neighbors, max_radius,
-        max_neighbors_octant, n_threads, dhids, max_neis_by_dhid));
+    return std::get<0>(compute_ordinary_kriging(target_locs, data_locs, data, covs, neighborhood,
+                                                max_neighbors, max_radius, max_neighbors_octant,
+                                                n_threads, dhids, max_neis_by_dhid));
   };
 }
 

@@ -20,8 +20,8 @@ using kriging_result = std::tuple<std::vector<double>, std::vector<double>>;
 /// Kriging with a known mean.
 ///
 /// A target without neighbours has the estimate NaN and the variance 0, one with a single neighbour
-/// that sample's value and the variance 0. Variances of systems are at least 1e-10. Weights are used
-/// as the decomposition gives them; a singular system (coincident samples) gives its solution.
+/// that sample's value and the variance 0. Variances of systems are at least 1e-10. Weights are
+/// used as the decomposition gives them; a singular system (coincident samples) gives its solution.
 kriging_result compute_simple_kriging(const location_list& target_locs,
                                       const location_list& data_locs,
                                       const std::vector<double>& data,

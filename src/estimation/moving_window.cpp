@@ -19,21 +19,22 @@ std::vector<double> moving_window_estimation(
                                               max_neighbors_octant, dhids, max_neis_by_dhid);
   const cov_computer cov = create_cov_computer(covs);
   std::vector<double> estimates(target_locs.size(), std::numeric_limits<double>::quiet_NaN());
-  detail::for_each_target<lag_buffer>(
-      target_locs, getter, n_threads,
-      [&](std::size_t index, const location& target, const std::vector<std::size_t>& neis,
-          lag_buffer& lags) {
-        lags.resize(neis.size());
-        for (std::size_t i = 0; i < neis.size(); ++i) lags.set(i, data_locs[neis[i]] - target);
-        const double* weights = cov.to_target(lags);
-        double weight_sum = 0.0;
-        double value_sum = 0.0;
-        for (std::size_t i = 0; i < neis.size(); ++i) {
-          weight_sum += weights[i];
-          value_sum += weights[i] * data[neis[i]];
-        }
-        if (std::abs(weight_sum) > 1e-30) estimates[index] = value_sum / weight_sum;
-      });
+  detail::for_each_target<lag_buffer>(target_locs, getter, n_threads,
+                                      [&](std::size_t index, const location& target,
+                                          const std::vector<std::size_t>& neis, lag_buffer& lags) {
+                                        lags.resize(neis.size());
+                                        for (std::size_t i = 0; i < neis.size(); ++i)
+                                          lags.set(i, data_locs[neis[i]] - target);
+                                        const double* weights = cov.to_target(lags);
+                                        double weight_sum = 0.0;
+                                        double value_sum = 0.0;
+                                        for (std::size_t i = 0; i < neis.size(); ++i) {
+                                          weight_sum += weights[i];
+                                          value_sum += weights[i] * data[neis[i]];
+                                        }
+                                        if (std::abs(weight_sum) > 1e-30)
+                                          estimates[index] = value_sum / weight_sum;
+                                      });
   return estimates;
 }
 

@@ -98,8 +98,8 @@ nei_getter create_nei_getter(const location_list& data_locs, const Neighborhood&
                                 std::to_string(neighborhood.size()));
   }
   if (!dhids.empty()) check_same_size("dhids", dhids.size(), data_locs.size(), "location");
-  return {data_locs,           neighborhood, max_neighbors,   max_radius,
-          max_neighbors_octant, dhids,        max_neis_by_dhid};
+  return {data_locs, neighborhood,    max_neighbors, max_radius, max_neighbors_octant,
+          dhids,     max_neis_by_dhid};
 }
 
 }  // namespace gravelox

@@ -26,12 +26,12 @@ struct nei_buffer {
 /// A callable from a location to sample indices, nearest first in the neighbourhood's metric.
 ///
 /// With max_neighbors of 1 or more the candidates are that many nearest samples, and max_radius
-/// plays no part; otherwise they are all samples strictly within |max_radius| in the neighbourhood's
-/// metric. Candidates then pass the octant limit and after it the drill-hole limit; a sample that
-/// is dropped is not made up for by a farther one.
+/// plays no part; otherwise they are all samples strictly within |max_radius| in the
+/// neighbourhood's metric. Candidates then pass the octant limit and after it the drill-hole limit;
+/// a sample that is dropped is not made up for by a farther one.
 ///
-/// It refers to the neighbourhood, the locations and the hole ids, which must outlive it. Immutable;
-/// many threads may call it at once, each with its own buffer.
+/// It refers to the neighbourhood, the locations and the hole ids, which must outlive it.
+/// Immutable; many threads may call it at once, each with its own buffer.
 class nei_getter {
  public:
   nei_getter(const location_list& data_locs, const Neighborhood& neighborhood, int max_neighbors,
@@ -59,9 +59,9 @@ class nei_getter {
 };
 
 /// The getter of one estimation run. Limits of 0 and below do not act, and neither does the
-/// drill-hole limit without `dhids`. Throws std::invalid_argument where `dhids` is neither empty nor
-/// one for each sample, or where the neighbourhood holds more samples than data_locs; it may hold
-/// fewer.
+/// drill-hole limit without `dhids`. Throws std::invalid_argument where `dhids` is neither empty
+/// nor one for each sample, or where the neighbourhood holds more samples than data_locs; it may
+/// hold fewer.
 nei_getter create_nei_getter(const location_list& data_locs, const Neighborhood& neighborhood,
                              int max_neighbors, double max_radius, int max_neighbors_octant,
                              const std::vector<int>& dhids, int max_neis_by_dhid);

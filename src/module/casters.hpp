@@ -9,6 +9,7 @@
 // (Estimator, Kernel, SpatialFunction) into plain Python functions.
 
 #include <pybind11/cast.h>
+#include <pybind11/gil_safe_call_once.h>
 
 #include "module/scalar_casters.hpp"
 // Scalars first: the headers below use their casters.

@@ -48,10 +48,13 @@ void bind_covariance(py::module_& m) {
       .def_static("exponential", &structure_of<covariance_type::exponential>, arg("sill"),
                   arg("ellipsoid"), docs::covariance_exponential)
       .def_static("nugget", &Covariance::nugget, arg("sill"), docs::covariance_nugget)
-      .def("type", [](const Covariance& cov) { return to_text(cov.type); }, docs::covariance_type)
-      .def("ellipsoid", [](const Covariance& cov) { return cov.ellipsoid; },
-           docs::covariance_ellipsoid)
-      .def("sill", [](const Covariance& cov) { return cov.sill; }, docs::covariance_sill)
+      .def(
+          "type", [](const Covariance& cov) { return to_text(cov.type); }, docs::covariance_type)
+      .def(
+          "ellipsoid", [](const Covariance& cov) { return cov.ellipsoid; },
+          docs::covariance_ellipsoid)
+      .def(
+          "sill", [](const Covariance& cov) { return cov.sill; }, docs::covariance_sill)
       .def("__call__", &Covariance::operator(), arg("h"), docs::covariance_call);
 }
 

@@ -44,14 +44,14 @@ void bind_estimations(py::module_& m) {
         arg("data"), arg("covs"), arg("mean"), arg("neighborhood"), arg("max_neighbors"),
         arg("max_radius") = -1.0, arg("max_neighbors_octant") = -1, arg("n_threads") = 0,
         no_dhids(), arg("max_neis_by_dhid") = -1, release_gil(), docs::compute_simple_kriging);
-  m.def("compute_ordinary_kriging", &compute_ordinary_kriging, arg("target_locs"),
-        arg("data_locs"), arg("data"), arg("covs"), arg("neighborhood"), arg("max_neighbors"),
+  m.def("compute_ordinary_kriging", &compute_ordinary_kriging, arg("target_locs"), arg("data_locs"),
+        arg("data"), arg("covs"), arg("neighborhood"), arg("max_neighbors"),
         arg("max_radius") = -1.0, arg("max_neighbors_octant") = -1, arg("n_threads") = 0,
         no_dhids(), arg("max_neis_by_dhid") = -1, release_gil(), docs::compute_ordinary_kriging);
   m.def("moving_window_estimation", &moving_window_estimation, arg("target_locs"), arg("nei"),
-        arg("data_locs"), arg("data"), arg("covs"), arg("max_neighbors"),
-        arg("max_radius") = -1.0, arg("max_neighbors_octant") = -1, no_dhids(),
-        arg("max_neis_by_dhid") = -1, arg("n_threads") = 0, docs::moving_window_estimation);
+        arg("data_locs"), arg("data"), arg("covs"), arg("max_neighbors"), arg("max_radius") = -1.0,
+        arg("max_neighbors_octant") = -1, no_dhids(), arg("max_neis_by_dhid") = -1,
+        arg("n_threads") = 0, docs::moving_window_estimation);
 }
 
 }  // namespace

@@ -6,7 +6,6 @@
 
 #include "module/casters.hpp"
 
-
 namespace gravelox {
 
 void register_frame_module(py::module_& m);

@@ -14,13 +14,9 @@ namespace {
 using py::arg;
 
 // Defaults carry their own text, so that signatures read the same on every run.
-py::arg_v default_origin() {
-  return {"origin", location(location::Zero()), "(0, 0, 0)"};
-}
+py::arg_v default_origin() { return {"origin", location(location::Zero()), "(0, 0, 0)"}; }
 
-py::arg_v default_rotation() {
-  return {"rotation", location(90.0, 0.0, 0.0), "(90, 0, 0)"};
-}
+py::arg_v default_rotation() { return {"rotation", location(90.0, 0.0, 0.0), "(90, 0, 0)"}; }
 
 py::arg_v default_deformation() {
   return {"deformation", Ellipsoid(1, 1, 1, 0, 0, 0), "Ellipsoid(1, 1, 1, 0, 0, 0)"};
@@ -43,8 +39,7 @@ void bind_cartesian_grid(py::class_<CartesianGrid>& grid) {
       .def("index", &CartesianGrid::index, docs::grid_index)
       .def("__call__", static_cast<by_indices>(&CartesianGrid::operator()), arg("i"), arg("j"),
            arg("k"), docs::grid_call_indices)
-      .def("__call__", static_cast<by_id>(&CartesianGrid::operator()), arg("i"),
-           docs::grid_call_id)
+      .def("__call__", static_cast<by_id>(&CartesianGrid::operator()), arg("i"), docs::grid_call_id)
       .def("number_of_cells", &CartesianGrid::number_of_cells, docs::grid_number_of_cells)
       .def("ijk", &CartesianGrid::ijk, arg("i"), docs::grid_ijk)
       .def("transformation", &CartesianGrid::transformation, py::return_value_policy::copy,
@@ -59,8 +54,7 @@ void bind_block_model(py::class_<BlockModel>& blocks) {
   blocks
       .def(py::init<const CartesianGrid&, const std::vector<bool>&>(), arg("base_grid"),
            arg("mask"), docs::block_model_init)
-      .def("cell_size", &BlockModel::cell_size, py::return_value_policy::copy,
-           docs::grid_cell_size)
+      .def("cell_size", &BlockModel::cell_size, py::return_value_policy::copy, docs::grid_cell_size)
       .def("base_grid", &BlockModel::base_grid, py::return_value_policy::copy,
            docs::block_model_base_grid)
       .def("locations", &BlockModel::locations, docs::block_model_locations)
@@ -85,14 +79,14 @@ void bind_bounding_box(py::class_<BoundingBox>& box) {
 }
 
 void bind_drillholes(py::module_& m) {
-  using box_form = drillhole_samples (*)(const location&, const location&, int, double, double, int,
-                                         int);
+  using box_form =
+      drillhole_samples (*)(const location&, const location&, int, double, double, int, int);
   using campaign_form =
       drillhole_samples (*)(double, double, int, double, double, double, double, double, double,
                             double, double, int, int, const Ellipsoid&, int);
-  m.def("create_random_drillholes", static_cast<box_form>(&create_random_drillholes),
-        arg("bottom"), arg("top"), arg("n_samples_by_dh"), arg("min_len"), arg("max_len"),
-        arg("n_drillholes"), arg("seed") = 121415, docs::drillholes_in_box);
+  m.def("create_random_drillholes", static_cast<box_form>(&create_random_drillholes), arg("bottom"),
+        arg("top"), arg("n_samples_by_dh"), arg("min_len"), arg("max_len"), arg("n_drillholes"),
+        arg("seed") = 121415, docs::drillholes_in_box);
   m.def("create_random_drillholes", static_cast<campaign_form>(&create_random_drillholes),
         arg("l1"), arg("l2"), arg("n_drillholes"), arg("min_azimuth"), arg("max_azimuth"),
         arg("min_dip"), arg("max_dip"), arg("min_length"), arg("max_length"),

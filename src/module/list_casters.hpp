@@ -4,8 +4,8 @@
 // Lists at the boundary. Included by casters.hpp only, after pybind11's headers.
 //
 // The stock casters touch a Python object for each element. Here an array of the right type goes in
-// with one pass over its memory, and a list of small arrays without the generic conversion; anything
-// else takes the general road, element by element. Every list is a copy.
+// with one pass over its memory, and a list of small arrays without the generic conversion;
+// anything else takes the general road, element by element. Every list is a copy.
 
 #include <cstdint>
 #include <cstring>
@@ -54,9 +54,9 @@ inline bool read_location(const PyArray_Proxy& array, gravelox::location& result
   return true;
 }
 
-/// Calls load_element(element, index) for each element of a sequence that is not text, as long as it
-/// returns true; begin(n) is told the length first. The length is asked for again at each step: a
-/// conversion may run Python code that changes the list.
+/// Calls load_element(element, index) for each element of a sequence that is not text, as long as
+/// it returns true; begin(n) is told the length first. The length is asked for again at each step:
+/// a conversion may run Python code that changes the list.
 template <typename Begin, typename LoadElement>
 bool load_sequence(handle source, const Begin& begin, const LoadElement& load_element) {
   if (PySequence_Check(source.ptr()) == 0 || isinstance<bytes>(source) || isinstance<str>(source)) {
@@ -178,7 +178,8 @@ template <typename T, typename Stored>
 class number_list_caster {
  public:
   using element_caster = make_caster<T>;
-  PYBIND11_TYPE_CASTER(std::vector<T>, const_name("list[") + element_caster::name + const_name("]"));
+  PYBIND11_TYPE_CASTER(std::vector<T>,
+                       const_name("list[") + element_caster::name + const_name("]"));
 
   bool load(handle source, bool convert) {
     if (const PyArray_Proxy* array = array_of<Stored>(source, 1)) return load_array(*array);

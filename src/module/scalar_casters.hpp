@@ -3,11 +3,9 @@
 
 // Numbers at the boundary. Included by casters.hpp only, right after pybind11's own casters.
 //
-// The stock casters know Python's int and float alone: a numpy.float32 would fail the strict pass over
-// the overloads and, in the lenient one, be truncated into the first overload that takes an int.
-// Here a numpy scalar goes where a Python number of its value would go.
-
-#include <pybind11/gil_safe_call_once.h>
+// The stock casters know Python's int and float alone: a numpy.float32 would fail the strict pass
+// over the overloads and, in the lenient one, be truncated into the first overload that takes an
+// int. Here a numpy scalar goes where a Python number of its value would go.
 
 #include <limits>
 

@@ -43,13 +43,19 @@ void bind_spatial_function(py::module_& m) {
 
 void bind_ellipsoid_info(py::module_& m) {
   py::class_<EllipsoidInfo>(m, "EllipsoidInfo", docs::ellipsoid_info)
-      .def("r1", [](const EllipsoidInfo& info) { return info.r1; }, docs::ellipsoid_info_r1)
-      .def("r2", [](const EllipsoidInfo& info) { return info.r2; }, docs::ellipsoid_info_r2)
-      .def("r3", [](const EllipsoidInfo& info) { return info.r3; }, docs::ellipsoid_info_r3)
-      .def("azimuth", [](const EllipsoidInfo& info) { return info.azimuth; },
-           docs::ellipsoid_info_azimuth)
-      .def("dip", [](const EllipsoidInfo& info) { return info.dip; }, docs::ellipsoid_info_dip)
-      .def("rake", [](const EllipsoidInfo& info) { return info.rake; }, docs::ellipsoid_info_rake);
+      .def(
+          "r1", [](const EllipsoidInfo& info) { return info.r1; }, docs::ellipsoid_info_r1)
+      .def(
+          "r2", [](const EllipsoidInfo& info) { return info.r2; }, docs::ellipsoid_info_r2)
+      .def(
+          "r3", [](const EllipsoidInfo& info) { return info.r3; }, docs::ellipsoid_info_r3)
+      .def(
+          "azimuth", [](const EllipsoidInfo& info) { return info.azimuth; },
+          docs::ellipsoid_info_azimuth)
+      .def(
+          "dip", [](const EllipsoidInfo& info) { return info.dip; }, docs::ellipsoid_info_dip)
+      .def(
+          "rake", [](const EllipsoidInfo& info) { return info.rake; }, docs::ellipsoid_info_rake);
 }
 
 void bind_ellipsoid(py::module_& m) {
@@ -75,8 +81,7 @@ void bind_ellipsoid(py::module_& m) {
       .def("matrix", &Ellipsoid::matrix, py::return_value_policy::copy, docs::ellipsoid_matrix)
       .def("inv_matrix", &Ellipsoid::inv_matrix, py::return_value_policy::copy,
            docs::ellipsoid_inv_matrix)
-      .def("surface", &surface, arg("n_points") = 600, arg("seed") = 12546,
-           docs::ellipsoid_surface)
+      .def("surface", &surface, arg("n_points") = 600, arg("seed") = 12546, docs::ellipsoid_surface)
       .def("volume", &volume, arg("n_points") = 600, arg("n_lags") = 300, arg("seed") = 12356,
            docs::ellipsoid_volume)
       .def("directions", &directions, arg("n_directions") = 600, arg("n_lags") = 300,

@@ -10,8 +10,9 @@
 namespace gravelox {
 
 /// The rotation R = Rx(rake) Ry(-dip) Rz(90 - azimuth) for angles in degrees, applied to columns.
-/// Its first row is the unit vector at the azimuth (clockwise from north) and dip (positive upward);
-/// rake turns the second and third rows about it. Azimuth 90, dip 0, rake 0 is the identity.
+/// Its first row is the unit vector at the azimuth (clockwise from north) and dip (positive
+/// upward); rake turns the second and third rows about it. Azimuth 90, dip 0, rake 0 is the
+/// identity.
 template <number T>
 Eigen::Matrix<T, 3, 3> rotation_matrix(const T& azimuth, const T& dip, const T& rake);
 

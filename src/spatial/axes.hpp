@@ -3,7 +3,8 @@
 
 // From a matrix back to axes, ranges and angles.
 //
-// A matrix here is an anisotropy map: its rows are the axes of an ellipsoid, each of length 1 / range.
+// A matrix here is an anisotropy map: its rows are the axes of an ellipsoid, each of length 1 /
+// range.
 
 #include <Eigen/Core>
 

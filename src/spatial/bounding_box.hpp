@@ -7,8 +7,8 @@
 
 namespace gravelox {
 
-/// An immutable box with the points that it was made from. Without points lower is 1e30, upper -1e30
-/// and length 0 on every axis.
+/// An immutable box with the points that it was made from. Without points lower is 1e30, upper
+/// -1e30 and length 0 on every axis.
 class BoundingBox {
  public:
   explicit BoundingBox(const location_list& corners);

@@ -27,8 +27,8 @@ drillhole_samples create_random_drillholes(const location& bottom, const locatio
 
 /// Holes of a campaign over a rectangle l1 by l2 (length units), with ids from 0.
 ///
-/// Each hole takes seven uniforms: collar x, y on the rectangle; collar z from min_dist_to_bottom to
-/// the sum of both distances (the second is not a bound but an extent); azimuth and dip of the
+/// Each hole takes seven uniforms: collar x, y on the rectangle; collar z from min_dist_to_bottom
+/// to the sum of both distances (the second is not a bound but an extent); azimuth and dip of the
 /// direction (degrees); length; number of samples, truncated. The samples, at equal steps from the
 /// collar, then go through the backward map of `deformation`; the default turns the holes by 90
 /// degrees about z, since azimuth 0 is not the identity.

@@ -15,10 +15,10 @@ namespace gravelox {
 /// A forest of k-d trees over a growing list of locations; ids count on through additions, and a
 /// removal shifts none.
 ///
-/// Growing enters one id too many, as seeded results have come to depend on: an addition of c points
-/// to n stored ones adds the ids n to n + c, and the next addition adds n + c again. Until then that
-/// id has no location and no query finds it; afterwards it stands in the index twice, and a query may
-/// list it twice.
+/// Growing enters one id too many, as seeded results have come to depend on: an addition of c
+/// points to n stored ones adds the ids n to n + c, and the next addition adds n + c again. Until
+/// then that id has no location and no query finds it; afterwards it stands in the index twice, and
+/// a query may list it twice.
 ///
 /// Queries may run at once on many threads, but not beside an addition or a removal.
 class DynamicNeighborhood {

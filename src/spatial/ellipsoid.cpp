@@ -105,9 +105,8 @@ Eigen::Vector3d Ellipsoid::minor_axis() const { return axis_of_row(matrix_, 2); 
 std::string Ellipsoid::to_string() const {
   const EllipsoidInfo values = info();
   const auto print = [&values](char* text, std::size_t size) {
-    return std::snprintf(text, size,
-                         "{r1: %f, r2: %f, r3: %f, azimuth: %f, dip: %f, rake: %f} ", values.r1,
-                         values.r2, values.r3, values.azimuth, values.dip, values.rake);
+    return std::snprintf(text, size, "{r1: %f, r2: %f, r3: %f, azimuth: %f, dip: %f, rake: %f} ",
+                         values.r1, values.r2, values.r3, values.azimuth, values.dip, values.rake);
   };
   // A range near the largest double takes some three hundred digits, hence the measuring pass.
   std::string text(static_cast<std::size_t>(print(nullptr, 0)), ' ');

@@ -18,8 +18,8 @@ namespace gravelox {
 
 /// An immutable pair of 3 by 3 matrices: real to isotropic coordinates, and back.
 ///
-/// Ranges and angles are not kept; info() reads them off the matrix. Any thread may call any member.
-/// Nothing refuses odd numbers: a singular matrix has infinities and NaN in its inverse.
+/// Ranges and angles are not kept; info() reads them off the matrix. Any thread may call any
+/// member. Nothing refuses odd numbers: a singular matrix has infinities and NaN in its inverse.
 class Ellipsoid {
  public:
   /// The unit sphere, with both matrices the identity.

@@ -4,9 +4,9 @@
 // CartesianGrid: a regular rotated grid, and BlockModel: the same with a mask of active cells.
 //
 // A grid is an ellipsoid that maps its box to the unit cube. Cells are counted k fastest, then j,
-// then i: the id of (i, j, k) is (i ny + j) nz + k. The location of a cell is its low corner; cell 0
-// stands at the origin. The rotation is (azimuth, dip, rake) in degrees, and (90, 0, 0) lays i, j, k
-// along x, y, z.
+// then i: the id of (i, j, k) is (i ny + j) nz + k. The location of a cell is its low corner; cell
+// 0 stands at the origin. The rotation is (azimuth, dip, rake) in degrees, and (90, 0, 0) lays i,
+// j, k along x, y, z.
 
 #include <cstddef>
 #include <tuple>
@@ -60,8 +60,8 @@ class CartesianGrid {
 
   const location& origin() const { return origin_; }
 
-  /// The 8 outermost cell locations, k innermost; not the ends of the box. Along an axis of one cell
-  /// they come twice.
+  /// The 8 outermost cell locations, k innermost; not the ends of the box. Along an axis of one
+  /// cell they come twice.
   const location_list& corners() const { return corners_; }
 
   BoundingBox bounding_box() const { return BoundingBox(corners_); }

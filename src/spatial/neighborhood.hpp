@@ -16,10 +16,10 @@ namespace gravelox {
 
 /// A k-d tree over copies of the locations. Ids are positions in the list.
 ///
-/// No query is exact: a subtree is entered only if eleven times the squared distance to its region is
-/// at most the current worst squared distance. Close points across a split can be missed; estimates
-/// depend on this, and it stays. Of points at equal distance the one met first comes first, whatever
-/// its id.
+/// No query is exact: a subtree is entered only if eleven times the squared distance to its region
+/// is at most the current worst squared distance. Close points across a split can be missed;
+/// estimates depend on this, and it stays. Of points at equal distance the one met first comes
+/// first, whatever its id.
 ///
 /// Copies share the tree, which never changes. Many threads may query one object at once.
 class Neighborhood {
@@ -33,8 +33,8 @@ class Neighborhood {
   /// throws std::invalid_argument for a negative count or a centre that is not finite.
   std::vector<std::size_t> find_neighbors(const location& center, int max_size) const;
 
-  /// All strictly within the radius, nearest first; one exactly at the radius is left out. A negative
-  /// radius counts by its absolute value. Ties stand in no particular order.
+  /// All strictly within the radius, nearest first; one exactly at the radius is left out. A
+  /// negative radius counts by its absolute value. Ties stand in no particular order.
   std::vector<std::size_t> find_neighbors(const location& center, double max_radius) const;
 
   /// The same into a buffer, for loops over finite centres.

@@ -9,8 +9,8 @@
 
 namespace gravelox {
 
-/// A callable from a location to a value. It holds copies of what it needs; many threads may call it
-/// at once unless its maker says otherwise.
+/// A callable from a location to a value. It holds copies of what it needs; many threads may call
+/// it at once unless its maker says otherwise.
 using SpatialFunction = std::function<double(const location&)>;
 
 }  // namespace gravelox

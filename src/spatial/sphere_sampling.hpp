@@ -3,8 +3,8 @@
 
 // Unit vectors that fill the sphere evenly, from the Halton sequence (Halton, 1960).
 //
-// Seeds and indices are 64-bit: a 32-bit word of an engine, used as a seed, stays unsigned and never
-// turns into a negative index, for which all directions are the same.
+// Seeds and indices are 64-bit: a 32-bit word of an engine, used as a seed, stays unsigned and
+// never turns into a negative index, for which all directions are the same.
 
 #include <cstdint>
 
@@ -12,8 +12,8 @@
 
 namespace gravelox {
 
-/// The unit vector of an index, on the upper half of the sphere: z is the radical inverse in base 3,
-/// the angle about z is 2 pi times that in base 2. An index of 0 or below gives (1, 0, 0).
+/// The unit vector of an index, on the upper half of the sphere: z is the radical inverse in base
+/// 3, the angle about z is 2 pi times that in base 2. An index of 0 or below gives (1, 0, 0).
 location halton_direction(std::int64_t index);
 
 /// `size` unit vectors on a half sphere: the indices seed, seed + 1, ..., turned by one random
@@ -21,8 +21,8 @@ location halton_direction(std::int64_t index);
 /// below 1 gives an empty list.
 location_list generate_random_semisphere(int size, std::int64_t seed = 0);
 
-/// 2 size unit vectors: the half sphere's, then the negatives of the next `size` indices', all turned
-/// by the same rotation. The second half is therefore not the mirror of the first.
+/// 2 size unit vectors: the half sphere's, then the negatives of the next `size` indices', all
+/// turned by the same rotation. The second half is therefore not the mirror of the first.
 location_list generate_random_sphere(int size, std::int64_t seed = 0);
 
 }  // namespace gravelox

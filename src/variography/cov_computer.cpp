@@ -11,7 +11,9 @@ namespace gravelox {
 namespace {
 
 /// Lags are evaluated in whole batches: the places behind the last lag hold zeros.
-std::size_t padded(std::size_t n) { return (n + Kernel::batch - 1) / Kernel::batch * Kernel::batch; }
+std::size_t padded(std::size_t n) {
+  return (n + Kernel::batch - 1) / Kernel::batch * Kernel::batch;
+}
 
 void grow(Eigen::ArrayXd& array, std::size_t n) {
   if (array.size() < to_index(n)) array.resize(to_index(n));
@@ -115,7 +117,8 @@ const double* cov_computer::evaluate(lag_buffer& lags, bool between) const {
     }
     if (same.needs_distances) take_roots(squares, n_padded, lags.distances_.data());
     for (const structure& s : same.structures) {
-      const lag_buffer::array& argument = s.kernel.takes_squares() ? lags.squares_ : lags.distances_;
+      const lag_buffer::array& argument =
+          s.kernel.takes_squares() ? lags.squares_ : lags.distances_;
       s.kernel.add_to(argument.data(), n_padded, s.sill, lags.values_.data());
     }
   }

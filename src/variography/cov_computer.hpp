@@ -49,7 +49,8 @@ class cov_computer {
   /// The covariance of each sample of the buffer with the target. The array belongs to the buffer.
   const double* to_target(lag_buffer& lags) const;
 
-  /// The same, followed by those between samples i > j: (1, 0), (2, 0), ..., (n - 1, 0), (2, 1), ...
+  /// The same, followed by those between samples i > j: (1, 0), (2, 0), ..., (n - 1, 0), (2, 1),
+  /// ...
   const double* to_target_and_between(lag_buffer& lags) const;
 
  private:

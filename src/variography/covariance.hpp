@@ -15,7 +15,8 @@ namespace gravelox {
 /// A sill, an anisotropy and a shape. The value at a lag vector h is sill * kernel(|ellipsoid(h)|);
 /// the zero lag is a point like any other, so a model's value there is the sum of its sills.
 ///
-/// The type is a label for printing and for the tables of kernels; evaluation uses the kernel alone.
+/// The type is a label for printing and for the tables of kernels; evaluation uses the kernel
+/// alone.
 struct Covariance {
   using Type = covariance_type;
 

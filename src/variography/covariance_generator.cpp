@@ -12,8 +12,8 @@ namespace gravelox {
 
 namespace {
 
-/// Ranges of the structures, relative to the ellipsoid's largest: the sums behind them grow from one
-/// structure to the next, and the lengths add up to a draw on [min_range, max_range).
+/// Ranges of the structures, relative to the ellipsoid's largest: the sums behind them grow from
+/// one structure to the next, and the lengths add up to a draw on [min_range, max_range).
 std::vector<Eigen::Vector3d> draw_range_vectors(random_engine& engine, std::size_t n_kernels,
                                                 double min_range, double max_range) {
   std::vector<Eigen::Vector3d> vectors;
@@ -40,10 +40,12 @@ void normalise(std::vector<double>& sills) {
 
 }  // namespace
 
-std::vector<std::vector<Covariance>> generate_covariances(
-    const Ellipsoid& ellipsoid, int n_kernels, const Kernel& cov_kernel, int n_covs, int seed,
-    double delta_angle, double min_str_range, double max_str_range, double min_sill,
-    double max_sill) {
+std::vector<std::vector<Covariance>> generate_covariances(const Ellipsoid& ellipsoid, int n_kernels,
+                                                          const Kernel& cov_kernel, int n_covs,
+                                                          int seed, double delta_angle,
+                                                          double min_str_range,
+                                                          double max_str_range, double min_sill,
+                                                          double max_sill) {
   check_at_least("n_kernels", n_kernels, 0);
   random_engine engine = create_engine(seed);
   const EllipsoidInfo info = ellipsoid.info();

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-// Kernel: the normalised shape of a covariance structure, as a function of the distance in isotropic
-// space, where the ellipsoid has radius 1.
+// Kernel: the normalised shape of a covariance structure, as a function of the distance in
+// isotropic space, where the ellipsoid has radius 1.
 
 #include <cstddef>
 #include <functional>
@@ -39,8 +39,8 @@ struct kernel_shape;
 ///   nugget       1 below 1e-8, otherwise 0
 ///   idw          1e6 below 1e-6, otherwise 1 / h^2
 ///
-/// Ranges are therefore practical ones: gaussian and exponential reach exp(-3) at h = 1. A kernel may
-/// also be any other function of h, such as a table. Many threads may call one object at once.
+/// Ranges are therefore practical ones: gaussian and exponential reach exp(-3) at h = 1. A kernel
+/// may also be any other function of h, such as a table. Many threads may call one object at once.
 class Kernel {
  public:
   explicit Kernel(covariance_type type);
@@ -69,8 +69,8 @@ class Kernel {
 template <number T>
 using cov_kernel = T (*)(const T& h);
 
-/// The shapes of Kernel for doubles and jets, except that the nugget ends at 1e-30: a smooth fit must
-/// not take close samples for one.
+/// The shapes of Kernel for doubles and jets, except that the nugget ends at 1e-30: a smooth fit
+/// must not take close samples for one.
 template <number T>
 cov_kernel<T> create_cov_kernel(covariance_type type);
 

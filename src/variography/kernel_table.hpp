@@ -9,8 +9,8 @@
 namespace gravelox {
 
 /// The kernel of a structure as a step function with n steps to a unit of |h|; beyond the table a
-/// spherical kernel is 0 and the others are their formulas. Types other than spherical, gaussian and
-/// exponential have no table: their own kernel is returned.
+/// spherical kernel is 0 and the others are their formulas. Types other than spherical, gaussian
+/// and exponential have no table: their own kernel is returned.
 ///
 /// The process keeps one table for each of the three types, filled from the kernel of the first
 /// structure that needs it that long. A table at least n long serves as it is, whatever n it was
