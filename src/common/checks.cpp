@@ -10,46 +10,51 @@ namespace gravelox {
 
 namespace {
 
+/// Values as streams print them: six digits, and an exponent where it is shorter.
 template <typename... Parts>
-[[noreturn]] void refuse(std::string_view name, const Parts&... parts) {
+std::string text_of(const Parts&... parts) {
   std::ostringstream text;
-  text << name << ": expected ";
   (text << ... << parts);
-  throw std::invalid_argument(text.str());
+  return text.str();
 }
 
 [[noreturn]] void refuse_location(std::string_view name, const location& value,
                                   const std::string& where) {
-  refuse(name, "finite coordinates, got (", value[0], ", ", value[1], ", ", value[2], ")", where);
+  refuse(name, "finite coordinates",
+         text_of("(", value[0], ", ", value[1], ", ", value[2], ")", where));
 }
 
 }  // namespace
 
+void refuse(std::string_view name, const std::string& expected, const std::string& got) {
+  throw std::invalid_argument(text_of(name, ": expected ", expected, ", got ", got));
+}
+
 void check_same_size(std::string_view name, std::size_t size, std::size_t expected,
                      std::string_view per) {
-  if (size != expected) refuse(name, expected, " values, one per ", per, ", got ", size);
+  if (size != expected) refuse(name, text_of(expected, " values, one per ", per), text_of(size));
 }
 
 void check_not_empty(std::string_view name, std::size_t size) {
-  if (size == 0) refuse(name, "at least 1 value, got 0");
+  if (size == 0) refuse(name, "at least 1 value", "0");
 }
 
 void check_positive(std::string_view name, double value) {
-  if (!(value > 0.0) || std::isinf(value)) refuse(name, "a positive number, got ", value);
+  if (!(value > 0.0) || std::isinf(value)) refuse(name, "a positive number", text_of(value));
 }
 
 void check_at_least(std::string_view name, long long value, long long least) {
-  if (value < least) refuse(name, "at least ", least, ", got ", value);
+  if (value < least) refuse(name, text_of("at least ", least), text_of(value));
 }
 
 void check_index(std::string_view name, long long index, std::size_t size) {
   if (index < 0 || static_cast<std::size_t>(index) >= size) {
-    refuse(name, "an index from 0 to below ", size, ", got ", index);
+    refuse(name, text_of("an index from 0 to below ", size), text_of(index));
   }
 }
 
 void check_finite(std::string_view name, double value) {
-  if (!std::isfinite(value)) refuse(name, "a finite number, got ", value);
+  if (!std::isfinite(value)) refuse(name, "a finite number", text_of(value));
 }
 
 void check_finite(std::string_view name, const location& value) {
@@ -59,7 +64,7 @@ void check_finite(std::string_view name, const location& value) {
 void check_finite(std::string_view name, std::span<const double> values) {
   for (std::size_t i = 0; i < values.size(); ++i) {
     if (!std::isfinite(values[i])) {
-      refuse(name, "finite numbers, got ", values[i], " at position ", i);
+      refuse(name, "finite numbers", text_of(values[i], " at position ", i));
     }
   }
 }

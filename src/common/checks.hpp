@@ -10,12 +10,17 @@
 
 #include <cstddef>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
 #include "common/location.hpp"
 
 namespace gravelox {
+
+/// Throws "<name>: expected <expected>, got <got>", for what none of the checks below says.
+[[noreturn]] void refuse(std::string_view name, const std::string& expected,
+                         const std::string& got);
 
 /// `size` values where `expected` are wanted; `per` says one for each of what ("location").
 void check_same_size(std::string_view name, std::size_t size, std::size_t expected,

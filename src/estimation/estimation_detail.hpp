@@ -8,18 +8,14 @@
 #include <vector>
 
 #include "common/checks.hpp"
+#include "common/integer.hpp"
 #include "common/location.hpp"
 #include "common/parallel_for.hpp"
 #include "estimation/nei_getter.hpp"
 
 namespace gravelox::detail {
 
-/// What an estimator needs to know of the samples beyond a getter.
-struct sample_view {
-  const location_list& locs;
-  const std::vector<double>& values;
-};
-
+/// What every run demands of its locations and values.
 inline void check_samples(const location_list& target_locs, const location_list& data_locs,
                           const std::vector<double>& data) {
   check_same_size("data", data.size(), data_locs.size(), "location");
@@ -41,7 +37,7 @@ void for_each_target(const location_list& target_locs, const nei_getter& getter,
                      const Body& body) {
   std::vector<thread_scratch<Scratch>> scratch(n_thread_slots(n_threads));
   parallel_for(target_locs.size(), n_threads, [&](std::size_t index, int thread_number) {
-    thread_scratch<Scratch>& mine = scratch[static_cast<std::size_t>(thread_number)];
+    thread_scratch<Scratch>& mine = scratch[to_size(thread_number)];
     const location& target = target_locs[index];
     body(index, target, getter(target, mine.neighbors), mine.own);
   });

@@ -63,25 +63,24 @@ std::vector<double> idw_estimation(const location_list& target_locs, const locat
                                               max_neighbors_octant, dhids, max_neis_by_dhid);
   std::vector<double> estimates(target_locs.size(), not_a_number);
   struct no_scratch {};
-  detail::for_each_target<no_scratch>(
-      target_locs, getter, n_threads,
-      [&](std::size_t index, const location& target, const std::vector<std::size_t>& neis,
-          no_scratch& /*scratch*/) {
-        if (neis.size() == 1) {
-          estimates[index] = data[neis.front()];
-          return;
-        }
-        blend mean(max_weight);
-        for (const std::size_t nei : neis) {
-          const double d = (data_locs[nei] - target).norm();
-          if (d < threshold) {
-            mean.add_close(data[nei]);
-          } else {
-            mean.add_far(1.0 / std::pow(d, power_a), data[nei]);
-          }
-        }
-        estimates[index] = mean.value();
-      });
+  const auto estimate = [&](std::size_t index, const location& target,
+                            const std::vector<std::size_t>& neis, no_scratch& /*scratch*/) {
+    if (neis.size() == 1) {
+      estimates[index] = data[neis.front()];
+      return;
+    }
+    blend mean(max_weight);
+    for (const std::size_t nei : neis) {
+      const double d = (data_locs[nei] - target).norm();
+      if (d < threshold) {
+        mean.add_close(data[nei]);
+      } else {
+        mean.add_far(1.0 / std::pow(d, power_a), data[nei]);
+      }
+    }
+    estimates[index] = mean.value();
+  };
+  detail::for_each_target<no_scratch>(target_locs, getter, n_threads, estimate);
   return estimates;
 }
 
@@ -98,28 +97,26 @@ std::vector<double> idw_estimation(const location_list& target_locs, const locat
   const cov_computer cov = create_cov_computer(covs);
   const power_function f = create_power_function(power_a);
   std::vector<double> estimates(target_locs.size(), not_a_number);
-  detail::for_each_target<lag_buffer>(target_locs, getter, n_threads,
-                                      [&](std::size_t index, const location& target,
-                                          const std::vector<std::size_t>& neis, lag_buffer& lags) {
-                                        if (neis.size() == 1) {
-                                          estimates[index] = data[neis.front()];
-                                          return;
-                                        }
-                                        lags.resize(neis.size());
-                                        for (std::size_t i = 0; i < neis.size(); ++i)
-                                          lags.set(i, data_locs[neis[i]] - target);
-                                        const double* covariances = cov.to_target(lags);
-                                        blend mean(max_weight);
-                                        for (std::size_t i = 0; i < neis.size(); ++i) {
-                                          const double value = data[neis[i]];
-                                          if ((data_locs[neis[i]] - target).norm() > threshold) {
-                                            mean.add_far(1.0 / f(1.0 - covariances[i]), value);
-                                          } else {
-                                            mean.add_close(value);
-                                          }
-                                        }
-                                        estimates[index] = mean.value();
-                                      });
+  const auto estimate = [&](std::size_t index, const location& target,
+                            const std::vector<std::size_t>& neis, lag_buffer& lags) {
+    if (neis.size() == 1) {
+      estimates[index] = data[neis.front()];
+      return;
+    }
+    lags.set(data_locs, neis, target, target);
+    const double* covariances = cov.to_target(lags);
+    blend mean(max_weight);
+    for (std::size_t i = 0; i < neis.size(); ++i) {
+      const double value = data[neis[i]];
+      if ((data_locs[neis[i]] - target).norm() > threshold) {
+        mean.add_far(1.0 / f(1.0 - covariances[i]), value);
+      } else {
+        mean.add_close(value);
+      }
+    }
+    estimates[index] = mean.value();
+  };
+  detail::for_each_target<lag_buffer>(target_locs, getter, n_threads, estimate);
   return estimates;
 }
 

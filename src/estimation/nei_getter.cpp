@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <array>
-#include <stdexcept>
 #include <string>
 #include <unordered_map>
 
@@ -22,18 +21,17 @@ std::size_t octant_of(const location& sample, const location& target) {
 }  // namespace
 
 nei_getter::nei_getter(const location_list& data_locs, const Neighborhood& neighborhood,
-                       int max_neighbors, double max_radius, int max_neighbors_octant,
-                       const std::vector<int>& dhids, int max_neis_by_dhid)
+                       const neighbor_limits& limits)
     : data_locs_(data_locs),
       neighborhood_(neighborhood),
-      max_neighbors_(max_neighbors),
-      max_radius_(max_radius),
-      max_neighbors_octant_(max_neighbors_octant),
-      max_neis_by_dhid_(max_neis_by_dhid) {
-  if (max_neis_by_dhid <= 0) return;
+      max_neighbors_(limits.max_neighbors),
+      max_radius_(limits.max_radius),
+      max_neighbors_octant_(limits.max_neighbors_octant),
+      max_neis_by_dhid_(limits.max_neis_by_dhid) {
+  if (max_neis_by_dhid_ <= 0) return;
   std::unordered_map<int, std::size_t> number_of_hole;
-  holes_.reserve(dhids.size());
-  for (const int dhid : dhids) {
+  holes_.reserve(limits.dhids.size());
+  for (const int dhid : limits.dhids) {
     holes_.push_back(number_of_hole.try_emplace(dhid, number_of_hole.size()).first->second);
   }
   n_holes_ = number_of_hole.size();
@@ -88,18 +86,22 @@ void nei_getter::limit_holes(nei_buffer& buffer) const {
   ids.erase(std::remove_if(ids.begin(), ids.end(), is_beyond), ids.end());
 }
 
+void check_neighborhood(std::string_view name, const Neighborhood& neighborhood,
+                        const location_list& data_locs) {
+  if (neighborhood.size() <= data_locs.size()) return;
+  refuse(name,
+         "at most " + std::to_string(data_locs.size()) + " samples, as many as there are data_locs",
+         std::to_string(neighborhood.size()));
+}
+
 nei_getter create_nei_getter(const location_list& data_locs, const Neighborhood& neighborhood,
                              int max_neighbors, double max_radius, int max_neighbors_octant,
                              const std::vector<int>& dhids, int max_neis_by_dhid) {
-  if (neighborhood.size() > data_locs.size()) {
-    throw std::invalid_argument("neighborhood: expected at most " +
-                                std::to_string(data_locs.size()) +
-                                " samples, the number of locations in data_locs, got " +
-                                std::to_string(neighborhood.size()));
-  }
+  check_neighborhood("neighborhood", neighborhood, data_locs);
   if (!dhids.empty()) check_same_size("dhids", dhids.size(), data_locs.size(), "location");
-  return {data_locs, neighborhood,    max_neighbors, max_radius, max_neighbors_octant,
-          dhids,     max_neis_by_dhid};
+  const neighbor_limits limits{max_neighbors, max_radius, max_neighbors_octant, dhids,
+                               max_neis_by_dhid};
+  return {data_locs, neighborhood, limits};
 }
 
 }  // namespace gravelox

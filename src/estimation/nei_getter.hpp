@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 #include <vector>
 
 #include "common/location.hpp"
@@ -23,6 +24,15 @@ struct nei_buffer {
   std::uint64_t stamp = 0;
 };
 
+/// How many samples a target may see; limits of 0 and below do not act.
+struct neighbor_limits {
+  int max_neighbors;
+  double max_radius;
+  int max_neighbors_octant;
+  std::vector<int> dhids;
+  int max_neis_by_dhid;
+};
+
 /// A callable from a location to sample indices, nearest first in the neighbourhood's metric.
 ///
 /// With max_neighbors of 1 or more the candidates are that many nearest samples, and max_radius
@@ -30,13 +40,12 @@ struct nei_buffer {
 /// neighbourhood's metric. Candidates then pass the octant limit and after it the drill-hole limit;
 /// a sample that is dropped is not made up for by a farther one.
 ///
-/// It refers to the neighbourhood, the locations and the hole ids, which must outlive it.
-/// Immutable; many threads may call it at once, each with its own buffer.
+/// It refers to the neighbourhood and the locations, which must outlive it. Immutable; many threads
+/// may call it at once, each with its own buffer.
 class nei_getter {
  public:
-  nei_getter(const location_list& data_locs, const Neighborhood& neighborhood, int max_neighbors,
-             double max_radius, int max_neighbors_octant, const std::vector<int>& dhids,
-             int max_neis_by_dhid);
+  nei_getter(const location_list& data_locs, const Neighborhood& neighborhood,
+             const neighbor_limits& limits);
 
   std::vector<std::size_t> operator()(const location& target) const;
 
@@ -58,10 +67,13 @@ class nei_getter {
   std::size_t n_holes_ = 0;
 };
 
-/// The getter of one estimation run. Limits of 0 and below do not act, and neither does the
-/// drill-hole limit without `dhids`. Throws std::invalid_argument where `dhids` is neither empty
-/// nor one for each sample, or where the neighbourhood holds more samples than data_locs; it may
-/// hold fewer.
+/// Throws std::invalid_argument where the neighbourhood, an argument of this name, holds more
+/// samples than data_locs; it may hold fewer.
+void check_neighborhood(std::string_view name, const Neighborhood& neighborhood,
+                        const location_list& data_locs);
+
+/// The getter of one estimation run. Throws std::invalid_argument where `dhids` is neither empty
+/// nor one for each sample, and as check_neighborhood does. Without `dhids` no limit by hole acts.
 nei_getter create_nei_getter(const location_list& data_locs, const Neighborhood& neighborhood,
                              int max_neighbors, double max_radius, int max_neighbors_octant,
                              const std::vector<int>& dhids, int max_neis_by_dhid);

@@ -455,7 +455,7 @@ min_length, max_length : float
 min_dist_to_bottom, max_dist_to_bottom : float
     Collars stand at a z from the first to the sum of both.
 min_n_samples_by_dh, max_n_samples_by_dh : int
-    Bounds of the number of samples in a hole, the upper one exclusive.
+    Bounds of the number of samples in a hole; the draw between them is truncated.
 deformation : Ellipsoid
     Its backward map is applied to the samples. The default turns the holes by 90 degrees about
     z; `Ellipsoid(1, 1, 1, 90, 0, 0)` leaves them where they are.

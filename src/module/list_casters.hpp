@@ -40,9 +40,13 @@ const PyArray_Proxy* array_of(handle source, int n_dimensions) {
 
 template <typename T>
 T read(const char* memory) {
-  T value;
-  std::memcpy(&value, memory, sizeof(T));
-  return value;
+  if constexpr (std::is_same_v<T, bool>) {
+    return *memory != 0;  // an array that views other data as bools may hold any byte
+  } else {
+    T value;
+    std::memcpy(&value, memory, sizeof(T));
+    return value;
+  }
 }
 
 /// One place to read a location from an array of shape (3,) or (3, 1).
@@ -76,10 +80,7 @@ bool load_sequence(handle source, const Begin& begin, const LoadElement& load_el
       element = reinterpret_borrow<object>(PyList_GET_ITEM(source.ptr(), i));
     } else {
       element = reinterpret_steal<object>(PySequence_GetItem(source.ptr(), i));
-      if (!element) {
-        PyErr_Clear();
-        return false;
-      }
+      if (!element) throw error_already_set();
     }
     if (!load_element(element, static_cast<std::size_t>(i))) return false;
   }
@@ -98,7 +99,6 @@ class type_caster<std::vector<gravelox::location>> {
     if (const PyArray_Proxy* table = array_of<double>(source, 2)) return load_table(*table);
     if (convert && is_table(source)) {
       const auto doubles = array_t<double>::ensure(source);
-      if (!doubles) PyErr_Clear();
       return doubles && load_table(*array_proxy(doubles.ptr()));
     }
     return load_sequence(
@@ -173,8 +173,8 @@ class type_caster<std::vector<gravelox::location>> {
   }
 };
 
-/// Lists of numbers: a one-dimensional array of type `Stored` goes in directly.
-template <typename T, typename Stored>
+/// Lists of numbers: a one-dimensional array of one of the types `Stored` goes in directly.
+template <typename T, typename... Stored>
 class number_list_caster {
  public:
   using element_caster = make_caster<T>;
@@ -182,7 +182,7 @@ class number_list_caster {
                        const_name("list[") + element_caster::name + const_name("]"));
 
   bool load(handle source, bool convert) {
-    if (const PyArray_Proxy* array = array_of<Stored>(source, 1)) return load_array(*array);
+    if ((load_array_of<Stored>(source) || ...)) return true;
     return load_sequence(
         source,
         [this](std::size_t n) {
@@ -209,18 +209,22 @@ class number_list_caster {
   }
 
  private:
-  bool load_array(const PyArray_Proxy& array) {
-    const auto n = static_cast<std::size_t>(array.dimensions[0]);
+  /// False also where a value does not fit, which the general road then refuses.
+  template <typename Number>
+  bool load_array_of(handle source) {
+    const PyArray_Proxy* array = array_of<Number>(source, 1);
+    if (array == nullptr) return false;
+    const auto n = static_cast<std::size_t>(array->dimensions[0]);
     value.resize(n);
-    if constexpr (std::is_same_v<T, Stored> && !std::is_same_v<T, bool>) {
-      if (array.strides[0] == static_cast<ssize_t>(sizeof(T))) {
-        if (n > 0) std::memcpy(value.data(), array.data, n * sizeof(T));
+    if constexpr (std::is_same_v<T, Number> && !std::is_same_v<T, bool>) {
+      if (array->strides[0] == static_cast<ssize_t>(sizeof(T))) {
+        if (n > 0) std::memcpy(value.data(), array->data, n * sizeof(T));
         return true;
       }
     }
     for (std::size_t i = 0; i < n; ++i) {
-      const auto number = read<Stored>(array.data + static_cast<ssize_t>(i) * array.strides[0]);
-      if constexpr (std::is_same_v<Stored, std::int64_t>) {
+      const auto number = read<Number>(array->data + static_cast<ssize_t>(i) * array->strides[0]);
+      if constexpr (sizeof(Number) > sizeof(T)) {
         if (number < std::numeric_limits<T>::min() || number > std::numeric_limits<T>::max()) {
           return false;
         }
@@ -236,7 +240,7 @@ class type_caster<std::vector<double>> : public number_list_caster<double, doubl
 
 /// numpy's default integers have 64 bits.
 template <>
-class type_caster<std::vector<int>> : public number_list_caster<int, std::int64_t> {};
+class type_caster<std::vector<int>> : public number_list_caster<int, std::int64_t, std::int32_t> {};
 
 template <>
 class type_caster<std::vector<bool>> : public number_list_caster<bool, bool> {};

@@ -11,18 +11,24 @@
 
 namespace pybind11::detail {
 
-/// Whether the object is a numpy floating scalar that is not a Python float too.
-inline bool is_numpy_floating(handle source) {
-  static gil_safe_call_once_and_store<object> storage;
-  const object& floating = storage
-                               .call_once_and_store_result([] {
-                                 const auto numpy =
-                                     reinterpret_steal<object>(PyImport_ImportModule("numpy"));
-                                 if (!numpy) throw error_already_set();
-                                 return static_cast<object>(numpy.attr("floating"));
-                               })
-                               .get_stored();
-  return PyObject_IsInstance(source.ptr(), floating.ptr()) == 1;
+/// The types of numpy scalars that Python's own checks do not know as numbers.
+struct numpy_scalar_types {
+  object floating;
+  object boolean;
+};
+
+inline const numpy_scalar_types& numpy_scalars() {
+  static gil_safe_call_once_and_store<numpy_scalar_types> storage;
+  const auto look_up = [] {
+    const auto numpy = reinterpret_steal<object>(PyImport_ImportModule("numpy"));
+    if (!numpy) throw error_already_set();
+    return numpy_scalar_types{numpy.attr("floating"), numpy.attr("bool_")};
+  };
+  return storage.call_once_and_store_result(look_up).get_stored();
+}
+
+inline bool is_of_type(handle source, const object& type) {
+  return PyObject_TypeCheck(source.ptr(), reinterpret_cast<PyTypeObject*>(type.ptr())) != 0;
 }
 
 /// Floats strictly: Python floats and numpy floating scalars. Otherwise anything with __float__ or
@@ -38,7 +44,7 @@ class type_caster<double> {
       value = PyFloat_AS_DOUBLE(source.ptr());
       return true;
     }
-    if (!convert && !is_numpy_floating(source)) return false;
+    if (!convert && !is_of_type(source, numpy_scalars().floating)) return false;
     value = PyFloat_AsDouble(source.ptr());
     if (value == -1.0 && PyErr_Occurred() != nullptr) {
       PyErr_Clear();
@@ -52,14 +58,20 @@ class type_caster<double> {
   }
 };
 
-/// Whole numbers of 32 bits: anything with __index__, and so never a float.
+/// Whole numbers of 32 bits: anything with __index__, and so never a float; numpy bools as
+/// Python's.
 template <>
 class type_caster<int> {
  public:
   PYBIND11_TYPE_CASTER(int, const_name("int"));
 
   bool load(handle source, bool /*convert*/) {
-    if (!source || PyIndex_Check(source.ptr()) == 0) return false;
+    if (!source) return false;
+    if (PyIndex_Check(source.ptr()) == 0) {
+      if (!is_of_type(source, numpy_scalars().boolean)) return false;
+      value = PyObject_IsTrue(source.ptr());
+      return true;
+    }
     const object whole = reinterpret_steal<object>(PyNumber_Index(source.ptr()));
     int overflow = 0;
     const long number = whole ? PyLong_AsLongAndOverflow(whole.ptr(), &overflow) : 0;

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "module/casters.hpp"
 
+#include "module/ellipsoid_docs.hpp"
 #include "module/families.hpp"
-#include "module/spatial_docs.hpp"
+#include "module/neighborhood_docs.hpp"
 #include "spatial/axes.hpp"
 #include "spatial/dynamic_neighborhood.hpp"
 #include "spatial/ellipsoid.hpp"
@@ -108,11 +109,11 @@ void bind_samplers_and_axes(py::module_& m) {
 
 /// The two queries of a neighbourhood: an int is a count, a float a radius.
 template <typename Hood>
-void bind_queries(py::class_<Hood>& hood, const char* radius_doc) {
+void bind_queries(py::class_<Hood>& hood, const char* count_doc, const char* radius_doc) {
   using by_count = ids (Hood::*)(const location&, int) const;
   using by_radius = ids (Hood::*)(const location&, double) const;
   hood.def("find_neighbors", static_cast<by_count>(&Hood::find_neighbors), arg("center"),
-           arg("max_size"), docs::find_neighbors_by_count)
+           arg("max_size"), count_doc)
       .def("find_neighbors", static_cast<by_radius>(&Hood::find_neighbors), arg("center"),
            arg("max_radius"), radius_doc);
 }
@@ -122,7 +123,7 @@ void bind_neighborhood(py::module_& m) {
   hood.def(py::init<const location_list&, const Ellipsoid&>(), arg("locations"), arg("ellipsoid"),
            docs::neighborhood_with_ellipsoid)
       .def(py::init<const location_list&>(), arg("locations"), docs::neighborhood_init);
-  bind_queries(hood, docs::find_neighbors_by_radius);
+  bind_queries(hood, docs::find_neighbors_by_count, docs::find_neighbors_by_radius);
   hood.def("nearest_neighbor", &Neighborhood::nearest_neighbor, docs::nearest_neighbor_positional);
 }
 
@@ -134,7 +135,8 @@ void bind_dynamic_neighborhood(py::module_& m) {
       .def(py::init<const location_list&, const Ellipsoid&>(), arg("locations"), arg("ellipsoid"),
            docs::neighborhood_with_ellipsoid)
       .def(py::init<const location_list&>(), arg("locations"), docs::neighborhood_init);
-  bind_queries(hood, docs::find_neighbors_by_radius_unsorted);
+  bind_queries(hood, docs::find_neighbors_by_count_dynamic,
+               docs::find_neighbors_by_radius_unsorted);
   hood.def("nearest_neighbor", &DynamicNeighborhood::nearest_neighbor, arg("point"),
            docs::nearest_neighbor)
       .def("add_point", &DynamicNeighborhood::add_point, arg("point"), docs::add_point)

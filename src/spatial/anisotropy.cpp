@@ -2,6 +2,7 @@
 #include "spatial/anisotropy.hpp"
 
 #include <cmath>
+#include <numbers>
 
 namespace gravelox {
 
@@ -12,8 +13,7 @@ using std::sin;
 
 template <number T>
 T radians(const T& degrees) {
-  static const double pi = std::acos(-1.0);
-  return degrees / T(180.0) * T(pi);
+  return degrees / T(180.0) * T(std::numbers::pi);
 }
 
 template <number T>

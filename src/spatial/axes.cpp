@@ -5,11 +5,13 @@
 #include <array>
 #include <cmath>
 #include <initializer_list>
+#include <numbers>
 
 namespace gravelox {
 
 namespace {
 
+using std::numbers::pi;
 using axis = Eigen::Vector3d;
 
 const axis x_axis = axis::UnitX();
@@ -85,7 +87,6 @@ Eigen::Matrix3d sort_matrix3d(const Eigen::Matrix3d& T, bool orthogonalize) {
 }
 
 EllipsoidInfo extract_ellipsoid_info(const Eigen::Matrix3d& T) {
-  static const double pi = std::acos(-1.0);
   const Eigen::Matrix3d sorted = sort_matrix3d(T, true);
   const auto range = [&sorted](Eigen::Index i) {
     const double length = sorted.row(i).norm();

@@ -26,7 +26,8 @@ struct EllipsoidInfo {
 /// tested on x and then on y, decides for it. A zero row gives NaN and no flip.
 Eigen::Matrix3d orthogonolize_axes(const Eigen::Matrix3d& T, bool sort = true);
 
-/// The rows by ascending length, hence by descending range; rows of equal length keep their order.
+/// The rows by ascending length, hence by descending range; rows of equal length keep their order
+/// (equal to the last bit: the rounding of a rotated sphere may reorder its rows).
 /// With `orthogonalize` the result goes through orthogonolize_axes.
 Eigen::Matrix3d sort_matrix3d(const Eigen::Matrix3d& T, bool orthogonalize = true);
 

@@ -26,7 +26,7 @@ BoundingBox::BoundingBox(const location_list& corners)
     }
     lower_[axis] = std::min(lower_[axis], least);
     upper_[axis] = std::max(upper_[axis], greatest);
-    length_[axis] = std::max(greatest - least, 0.0);
+    length_[axis] = std::max(0.0, greatest - least);
   }
 }
 

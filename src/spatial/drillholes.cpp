@@ -14,7 +14,7 @@ drillhole_samples create_random_drillholes(const location& bottom, const locatio
   const double sz = (bottom.z() - top.z()) / n;
   drillhole_samples samples;
   auto& [locations, ids] = samples;
-  for (int hole = 1; hole <= n_drillholes; ++hole) {
+  for (int hole = 0; hole < n_drillholes; ++hole) {
     const double ax = uniform01(engine) * extent.x() + bottom.x();
     const double ay = uniform01(engine) * extent.y() + bottom.y();
     const double bx = uniform01(engine) * extent.x() + bottom.x();
@@ -25,7 +25,7 @@ drillhole_samples create_random_drillholes(const location& bottom, const locatio
     for (int i = 0; i < n_samples_by_dh; ++i) {
       locations.emplace_back(bx + fraction * sx * i, by + fraction * sy * i,
                              top.z() + fraction * sz * i);
-      ids.push_back(hole);
+      ids.push_back(hole + 1);
     }
   }
   return samples;

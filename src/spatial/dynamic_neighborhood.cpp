@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <string>
 #include <utility>
 
 #include "common/checks.hpp"
@@ -68,8 +69,7 @@ DynamicNeighborhood::DynamicNeighborhood(const location_list& locations)
 DynamicNeighborhood::DynamicNeighborhood(const location_list& locations, const Ellipsoid& ellipsoid,
                                          bool has_ellipsoid)
     : has_ellipsoid_(has_ellipsoid), ellipsoid_(ellipsoid) {
-  check_finite("locations", locations);
-  index_ = std::make_unique<index>(to_search_space(locations));
+  index_ = std::make_unique<index>(to_search_space("locations", locations));
 }
 
 DynamicNeighborhood::~DynamicNeighborhood() = default;
@@ -80,17 +80,19 @@ location DynamicNeighborhood::to_search_space(const location& point) const {
   return has_ellipsoid_ ? ellipsoid_.forward(point) : point;
 }
 
-location_list DynamicNeighborhood::to_search_space(const location_list& points) const {
+location_list DynamicNeighborhood::to_search_space(std::string_view name,
+                                                   const location_list& points) const {
+  check_finite(name, points);
   location_list mapped(points.size());
   std::transform(points.begin(), points.end(), mapped.begin(),
                  [this](const location& point) { return to_search_space(point); });
-  check_finite("points under the ellipsoid", mapped);
+  check_finite(std::string(name) + " under the ellipsoid", mapped);
   return mapped;
 }
 
 std::vector<std::size_t> DynamicNeighborhood::find_neighbors(const location& center,
                                                              int max_size) const {
-  check_finite("center", center);
+  check_finite("center", to_search_space(center));
   check_at_least("max_size", max_size, 0);
   neighbor_buffer buffer;
   detail::search_by_count(index_->tree, to_search_space(center),
@@ -100,11 +102,11 @@ std::vector<std::size_t> DynamicNeighborhood::find_neighbors(const location& cen
 
 std::vector<std::size_t> DynamicNeighborhood::find_neighbors(const location& center,
                                                              double max_radius) const {
-  check_finite("center", center);
+  check_finite("center", to_search_space(center));
   neighbor_buffer buffer;
   const auto eps = static_cast<float>(max_radius * max_radius);
-  detail::search_by_radius(index_->tree, to_search_space(center), max_radius, eps, buffer.found);
-  detail::store(buffer.found, buffer);
+  detail::search_by_radius(index_->tree, to_search_space(center), max_radius, eps, buffer);
+  detail::store_found_ids(buffer);
   return std::move(buffer.ids);
 }
 
@@ -114,13 +116,11 @@ std::size_t DynamicNeighborhood::nearest_neighbor(const location& point) const {
 }
 
 void DynamicNeighborhood::add_point(const location& point) {
-  check_finite("point", point);
-  index_->add(to_search_space(location_list{point}));
+  index_->add(to_search_space("point", {point}));
 }
 
 void DynamicNeighborhood::add_points(const location_list& points) {
-  check_finite("points", points);
-  index_->add(to_search_space(points));
+  index_->add(to_search_space("points", points));
 }
 
 void DynamicNeighborhood::remove_point(int id) {

@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <string_view>
 #include <vector>
 
 #include "common/location.hpp"
@@ -46,6 +47,7 @@ class DynamicNeighborhood {
   /// The first of find_neighbors(point, 1); throws std::invalid_argument where nothing was stored.
   std::size_t nearest_neighbor(const location& point) const;
 
+  /// The point gets the id size().
   void add_point(const location& point);
 
   /// An empty list adds the one id too many all the same.
@@ -64,7 +66,7 @@ class DynamicNeighborhood {
   DynamicNeighborhood(const location_list& locations, const Ellipsoid& ellipsoid,
                       bool has_ellipsoid);
   location to_search_space(const location& point) const;
-  location_list to_search_space(const location_list& points) const;
+  location_list to_search_space(std::string_view name, const location_list& points) const;
 
   bool has_ellipsoid_;
   Ellipsoid ellipsoid_;

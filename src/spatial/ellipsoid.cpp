@@ -66,6 +66,7 @@ location_list Ellipsoid::surface(int n_points, std::int64_t seed) const {
 }
 
 location_list Ellipsoid::volume(int n_points, int n_lags, std::int64_t seed) const {
+  if (n_points < 1 || n_lags < 1) return {};
   random_engine engine = create_engine(seed);
   normal_distribution normal;
   location_list points;

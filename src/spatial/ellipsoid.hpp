@@ -35,6 +35,7 @@ class Ellipsoid {
   /// The same from (r1, r2, r3) and (azimuth, dip, rake).
   Ellipsoid(const Eigen::Vector3d& length, const Eigen::Vector3d& rotation);
 
+  /// The same from a record of ranges and angles.
   explicit Ellipsoid(const EllipsoidInfo& ellipsoid_info);
 
   /// Ranges in descending order, with the angles of the axes in that order.

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdint>
 #include <limits>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 
@@ -22,9 +23,8 @@ std::size_t checked_size(const cell_triple& counts) {
   // Two counts of 31 bits stay within 64; the third is multiplied only if those two fit.
   const std::int64_t plane = std::int64_t{ny} * nz;
   if (plane > most_cells || plane * nx > most_cells) {
-    throw std::invalid_argument("number_of_cells: expected at most 2147483647 cells in all, got " +
-                                std::to_string(nx) + " x " + std::to_string(ny) + " x " +
-                                std::to_string(nz));
+    refuse("number_of_cells", "at most 2147483647 cells in all",
+           std::to_string(nx) + " x " + std::to_string(ny) + " x " + std::to_string(nz));
   }
   return static_cast<std::size_t>(plane * nx);
 }
@@ -34,9 +34,9 @@ int whole_cells(double length, double cell_size) {
   const double count = std::trunc(length / cell_size);
   // Also false for a quotient that is not a number.
   if (!(count >= 1.0 && count <= most_cells)) {
-    throw std::invalid_argument(
-        "cell_size: expected 1 to 2147483647 cells along each axis, got length / cell_size = " +
-        std::to_string(length) + " / " + std::to_string(cell_size));
+    std::ostringstream got;
+    got << "length / cell_size = " << length << " / " << cell_size;
+    refuse("cell_size", "1 to 2147483647 cells along each axis", got.str());
   }
   return static_cast<int>(count);
 }

@@ -4,12 +4,12 @@
 // How both neighbourhood classes set up and ask their trees. Private to their sources: the tree
 // library appears nowhere else.
 
-#include <algorithm>
 #include <cstddef>
-#include <limits>
 #include <nanoflann.hpp>
+#include <utility>
 #include <vector>
 
+#include "common/integer.hpp"
 #include "common/location.hpp"
 #include "spatial/ellipsoid.hpp"
 #include "spatial/neighbor_buffer.hpp"
@@ -42,7 +42,7 @@ struct PointCloud {
 
   std::size_t kdtree_get_point_count() const { return points.size(); }
   T kdtree_get_pt(std::size_t index, std::size_t dimension) const {
-    return points[index][static_cast<Eigen::Index>(dimension)];
+    return points[index][to_index(dimension)];
   }
   template <typename Box>
   bool kdtree_get_bbox(Box& /*box*/) const {
@@ -50,7 +50,30 @@ struct PointCloud {
   }
 };
 
-using radius_result_set = nanoflann::RadiusResultSet<double, std::size_t>;
+/// What a radius search collects, in the order of the traversal: all strictly below the threshold.
+class radius_result_set {
+ public:
+  using DistanceType = double;
+  using IndexType = std::size_t;
+
+  radius_result_set(double squared_radius, std::vector<std::pair<std::size_t, double>>& found)
+      : squared_radius_(squared_radius), found_(found) {
+    found_.clear();
+  }
+
+  std::size_t size() const { return found_.size(); }
+  bool full() const { return true; }
+  double worstDist() const { return squared_radius_; }
+
+  bool addPoint(double squared_distance, std::size_t id) {
+    if (squared_distance < squared_radius_) found_.emplace_back(id, squared_distance);
+    return true;
+  }
+
+ private:
+  double squared_radius_;
+  std::vector<std::pair<std::size_t, double>>& found_;
+};
 
 /// The k nearest of k slots that start at id 0; what no point fills stays 0.
 template <typename Tree>
@@ -64,23 +87,18 @@ void search_by_count(const Tree& tree, const location& center, std::size_t k,
   tree.findNeighbors(nearest, center.data(), search_parameters(search_eps));
 }
 
-/// Appends the points strictly within the radius to `found`, in the order of the traversal.
-template <typename Tree, typename Found>
+/// The points strictly within the radius into `buffer.found`, in the order of the traversal.
+template <typename Tree>
 void search_by_radius(const Tree& tree, const location& center, double max_radius, float eps,
-                      Found& found) {
-  radius_result_set within(max_radius * max_radius, found);
+                      neighbor_buffer& buffer) {
+  radius_result_set within(max_radius * max_radius, buffer.found);
   tree.findNeighbors(within, center.data(), search_parameters(eps));
 }
 
-/// Copies the ids and squared distances of a radius search into the buffer.
-template <typename Found>
-void store(const Found& found, neighbor_buffer& buffer) {
+/// The ids of `buffer.found`, in its order.
+inline void store_found_ids(neighbor_buffer& buffer) {
   buffer.ids.clear();
-  buffer.squared_distances.clear();
-  for (const auto& [id, squared_distance] : found) {
-    buffer.ids.push_back(id);
-    buffer.squared_distances.push_back(squared_distance);
-  }
+  for (const auto& [id, squared_distance] : buffer.found) buffer.ids.push_back(id);
 }
 
 }  // namespace gravelox::detail

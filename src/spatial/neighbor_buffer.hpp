@@ -9,11 +9,12 @@
 
 namespace gravelox {
 
-/// Sample ids with their squared distances in the space of the search, both in the same order.
+/// Sample ids in the order that the query tells.
 struct neighbor_buffer {
   std::vector<std::size_t> ids;
+
+  /// Scratch: squared distances of the query by count, ids with theirs of the query by radius.
   std::vector<double> squared_distances;
-  /// Scratch of the radius query.
   std::vector<std::pair<std::size_t, double>> found;
 };
 

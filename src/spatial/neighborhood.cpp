@@ -53,13 +53,13 @@ void Neighborhood::find_neighbors(const location& center, int max_size,
 void Neighborhood::find_neighbors(const location& center, double max_radius,
                                   neighbor_buffer& buffer) const {
   detail::search_by_radius(index_->tree, to_search_space(center), max_radius, detail::search_eps,
-                           buffer.found);
+                           buffer);
   std::sort(buffer.found.begin(), buffer.found.end(), nanoflann::IndexDist_Sorter());
-  detail::store(buffer.found, buffer);
+  detail::store_found_ids(buffer);
 }
 
 std::vector<std::size_t> Neighborhood::find_neighbors(const location& center, int max_size) const {
-  check_finite("center", center);
+  check_finite("center", to_search_space(center));
   check_at_least("max_size", max_size, 0);
   neighbor_buffer buffer;
   find_neighbors(center, max_size, buffer);
@@ -68,7 +68,7 @@ std::vector<std::size_t> Neighborhood::find_neighbors(const location& center, in
 
 std::vector<std::size_t> Neighborhood::find_neighbors(const location& center,
                                                       double max_radius) const {
-  check_finite("center", center);
+  check_finite("center", to_search_space(center));
   neighbor_buffer buffer;
   find_neighbors(center, max_radius, buffer);
   return std::move(buffer.ids);

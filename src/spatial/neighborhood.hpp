@@ -17,9 +17,9 @@ namespace gravelox {
 /// A k-d tree over copies of the locations. Ids are positions in the list.
 ///
 /// No query is exact: a subtree is entered only if eleven times the squared distance to its region
-/// is at most the current worst squared distance. Close points across a split can be missed;
-/// estimates depend on this, and it stays. Of points at equal distance the one met first comes
-/// first, whatever its id.
+/// is at most the current worst squared distance. Close points across a split can be missed.
+/// Models are fitted with this search, so they are used with it: it is never made exact. Of points
+/// at equal distance the one met first comes first, whatever its id.
 ///
 /// Copies share the tree, which never changes. Many threads may query one object at once.
 class Neighborhood {
@@ -30,7 +30,8 @@ class Neighborhood {
   explicit Neighborhood(const location_list& locations);
 
   /// The max_size nearest (fewer where fewer are stored), nearest first. 0 gives an empty list;
-  /// throws std::invalid_argument for a negative count or a centre that is not finite.
+  /// throws std::invalid_argument for a negative count or a centre that is not finite. Where
+  /// squared distances overflow, places that no location fills are 0.
   std::vector<std::size_t> find_neighbors(const location& center, int max_size) const;
 
   /// All strictly within the radius, nearest first; one exactly at the radius is left out. A
@@ -44,6 +45,7 @@ class Neighborhood {
   /// The first of find_neighbors(point, 1); throws std::invalid_argument where nothing is stored.
   std::size_t nearest_neighbor(const location& point) const;
 
+  /// The number of locations.
   std::size_t size() const;
 
  private:

@@ -3,6 +3,7 @@
 
 #include <Eigen/Core>
 #include <cmath>
+#include <numbers>
 
 #include "common/integer.hpp"
 #include "common/random.hpp"
@@ -34,9 +35,8 @@ Eigen::Matrix3d random_rotation(std::int64_t seed) {
 }  // namespace
 
 location halton_direction(std::int64_t index) {
-  static const double pi = std::acos(-1.0);
   const double z = radical_inverse(index, 3);
-  const double phi = 2.0 * pi * radical_inverse(index, 2);
+  const double phi = 2.0 * std::numbers::pi * radical_inverse(index, 2);
   const double radius = std::sqrt(1.0 - z * z);
   return {std::cos(phi) * radius, std::sin(phi) * radius, z};
 }

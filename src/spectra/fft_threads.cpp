@@ -3,7 +3,7 @@
 
 #include <fftw3.h>
 
-#include "common/parallel_for.hpp"
+#include "common/threads.hpp"
 
 namespace gravelox {
 
@@ -27,7 +27,7 @@ void ready_fft_threads() {
 void set_fft_n_threads(int n_threads) {
   const std::lock_guard lock(fft_mutex());
   ready_fft_threads();
-  fftw_plan_with_nthreads(static_cast<int>(n_thread_slots(n_threads)));
+  fftw_plan_with_nthreads(check_n_threads(n_threads));
 }
 
 }  // namespace gravelox

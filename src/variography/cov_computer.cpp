@@ -45,17 +45,19 @@ void take_roots(const double* squares, std::size_t n, double* roots) {
 
 }  // namespace
 
-void lag_buffer::resize(std::size_t n) {
-  size_ = n;
+void lag_buffer::set(const location_list& data_locs, const std::vector<std::size_t>& neis,
+                     const location& target, const location& origin) {
+  size_ = neis.size();
+  target_ = target - origin;
   for (array* coordinates : {&x_, &y_, &z_, &mapped_x_, &mapped_y_, &mapped_z_}) {
-    grow(*coordinates, n);
+    grow(*coordinates, size_);
   }
-}
-
-void lag_buffer::set(std::size_t i, const location& lag) {
-  x_[to_index(i)] = lag.x();
-  y_[to_index(i)] = lag.y();
-  z_[to_index(i)] = lag.z();
+  for (std::size_t i = 0; i < size_; ++i) {
+    const location relative = data_locs[neis[i]] - origin;
+    x_[to_index(i)] = relative.x();
+    y_[to_index(i)] = relative.y();
+    z_[to_index(i)] = relative.z();
+  }
 }
 
 cov_computer::cov_computer(const std::vector<Covariance>& covs, int n) {
@@ -88,34 +90,14 @@ const double* cov_computer::evaluate(lag_buffer& lags, bool between) const {
   const std::size_t n = lags.size();
   const std::size_t n_lags = between ? n * (n + 1) / 2 : n;
   const std::size_t n_padded = padded(n_lags);
-  grow(lags.squares_, n_padded);
-  grow(lags.distances_, n_padded);
-  grow(lags.values_, n_padded);
-  const double* x = lags.mapped_x_.data();
-  const double* y = lags.mapped_y_.data();
-  const double* z = lags.mapped_z_.data();
-  double* squares = lags.squares_.data();
-
+  for (lag_buffer::array* values : {&lags.squares_, &lags.distances_, &lags.values_}) {
+    grow(*values, n_padded);
+  }
   lags.values_.head(to_index(n_padded)).setZero();
   lags.squares_.segment(to_index(n_lags), to_index(n_padded - n_lags)).setZero();
   for (const group& same : groups_) {
-    const auto map = [&](Eigen::Index axis, lag_buffer::array& mapped) {
-      map_axis(same.matrix.row(axis), lags.x_.data(), lags.y_.data(), lags.z_.data(), n,
-               mapped.data());
-    };
-    map(0, lags.mapped_x_);
-    map(1, lags.mapped_y_);
-    map(2, lags.mapped_z_);
-    square_distances(x, y, z, 0.0, 0.0, 0.0, n, squares);
-    if (between) {
-      double* column = squares + n;
-      for (std::size_t j = 0; j + 1 < n; ++j) {
-        const std::size_t below = n - 1 - j;
-        square_distances(x + j + 1, y + j + 1, z + j + 1, x[j], y[j], z[j], below, column);
-        column += below;
-      }
-    }
-    if (same.needs_distances) take_roots(squares, n_padded, lags.distances_.data());
+    square_lags(same.matrix, between, lags);
+    if (same.needs_distances) take_roots(lags.squares_.data(), n_padded, lags.distances_.data());
     for (const structure& s : same.structures) {
       const lag_buffer::array& argument =
           s.kernel.takes_squares() ? lags.squares_ : lags.distances_;
@@ -123,6 +105,34 @@ const double* cov_computer::evaluate(lag_buffer& lags, bool between) const {
     }
   }
   return lags.values_.data();
+}
+
+void cov_computer::square_lags(const Eigen::Matrix3d& matrix, bool between, lag_buffer& lags) {
+  const std::size_t n = lags.size();
+  // The target takes the very road of the samples, so that one on the target has a lag of exactly
+  // 0.
+  const auto map = [&](Eigen::Index axis, lag_buffer::array& mapped) {
+    const Eigen::RowVector3d row = matrix.row(axis);
+    map_axis(row, lags.x_.data(), lags.y_.data(), lags.z_.data(), n, mapped.data());
+    double target = 0.0;
+    map_axis(row, &lags.target_.x(), &lags.target_.y(), &lags.target_.z(), 1, &target);
+    return target;
+  };
+  const double target_x = map(0, lags.mapped_x_);
+  const double target_y = map(1, lags.mapped_y_);
+  const double target_z = map(2, lags.mapped_z_);
+  const double* x = lags.mapped_x_.data();
+  const double* y = lags.mapped_y_.data();
+  const double* z = lags.mapped_z_.data();
+  double* squares = lags.squares_.data();
+  square_distances(x, y, z, target_x, target_y, target_z, n, squares);
+  if (!between) return;
+  double* column = squares + n;
+  for (std::size_t j = 0; j + 1 < n; ++j) {
+    const std::size_t below = n - 1 - j;
+    square_distances(x + j + 1, y + j + 1, z + j + 1, x[j], y[j], z[j], below, column);
+    column += below;
+  }
 }
 
 cov_computer create_cov_computer(const std::vector<Covariance>& covs, int n) {

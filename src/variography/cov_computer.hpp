@@ -12,24 +12,25 @@
 
 namespace gravelox {
 
-/// Scratch of the batch forms of cov_computer, one a thread; it grows and never shrinks.
-///
-/// The caller sets the samples' positions relative to the target, then reads the values.
+/// The samples around a target and scratch of the batch forms of cov_computer, one a thread; it
+/// grows and never shrinks. Beside a system matrix over n samples it takes half as much up to three
+/// times: three arrays of n (n + 1) / 2 values.
 class lag_buffer {
  public:
-  /// Makes room for n samples.
-  void resize(std::size_t n);
-  std::size_t size() const { return size_; }
+  /// Sets the samples of these indices and their target. Positions are kept relative to an origin
+  /// near them: differences of real coordinates come first and the map after them, so that large
+  /// coordinates cost no precision.
+  void set(const location_list& data_locs, const std::vector<std::size_t>& neis,
+           const location& target, const location& origin);
 
-  /// Sample minus target for sample i. Differences of real coordinates come first and the map after
-  /// them, so that large coordinates cost no precision.
-  void set(std::size_t i, const location& lag);
+  std::size_t size() const { return size_; }
 
  private:
   friend class cov_computer;
   using array = Eigen::ArrayXd;
 
   std::size_t size_ = 0;
+  location target_;
   array x_, y_, z_;
   array mapped_x_, mapped_y_, mapped_z_;
   array squares_, distances_, values_;
@@ -44,6 +45,7 @@ class cov_computer {
   /// structures' own.
   explicit cov_computer(const std::vector<Covariance>& covs, int n = -1);
 
+  /// The covariance at a lag vector.
   double operator()(const location& lag) const;
 
   /// The covariance of each sample of the buffer with the target. The array belongs to the buffer.
@@ -66,6 +68,9 @@ class cov_computer {
   };
 
   const double* evaluate(lag_buffer& lags, bool between) const;
+
+  /// The squared distances of all lags after a map, in the order of the results.
+  static void square_lags(const Eigen::Matrix3d& matrix, bool between, lag_buffer& lags);
 
   std::vector<group> groups_;
 };

@@ -49,10 +49,12 @@ class generic_nested_cov {
   T nugget_;
 };
 
+/// One structure from its type, ranges (length units), angles (degrees) and sill.
 template <number T>
 generic_cov<T> create_cov(covariance_type type, const T& r1, const T& r2, const T& r3,
                           const T& azimuth, const T& dip, const T& rake, const T& sill);
 
+/// The sum of the structures and of a nugget of this sill.
 template <number T>
 generic_nested_cov<T> create_nested_cov(const std::vector<generic_cov_structure<T>>& structures,
                                         const T& nugget);
