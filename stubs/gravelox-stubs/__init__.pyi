@@ -1,0 +1,1910 @@
+from __future__ import annotations
+import numpy
+import numpy.typing
+import typing
+__all__: list[str] = ['BlockModel', 'BoundingBox', 'CartesianGrid', 'Covariance', 'Direction', 'DynamicNeighborhood', 'Ellipsoid', 'EllipsoidInfo', 'Estimator', 'IDW', 'Kernel', 'Neighborhood', 'OrdinaryKriging', 'Rotation', 'SimpleKriging', 'SpatialFunction', 'check_n_threads', 'compute_ordinary_kriging', 'compute_simple_kriging', 'covariance_computer', 'create_random_drillholes', 'extract_ellipsoid_info', 'generate_covariances', 'generate_random_semisphere', 'generate_random_sphere', 'moving_window_estimation', 'orthogonolize_axes', 'set_fft_n_threads', 'sort_matrix3d']
+class BlockModel:
+    """
+
+    A grid with a mask of active cells.
+
+    Positions count the active cells by ascending id.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> grid = gravelox.CartesianGrid((10, 10, 10), (2, 2, 2))
+    >>> blocks = gravelox.BlockModel(grid, [False] * 7 + [True])
+    >>> len(blocks), blocks.full_size(), blocks(0).tolist()
+    (1, 8, [5.0, 5.0, 5.0])
+    """
+    @typing.overload
+    def __call__(self, i: int, j: int, k: int) -> numpy.ndarray[numpy.float64[3, 1]]:
+        """
+        The location of an active cell by its indices.
+
+        Parameters
+        ----------
+        i, j, k : int
+            The indices of the cell in the grid.
+
+        Returns
+        -------
+        ndarray of shape (3,)
+            The low corner of the cell.
+
+        Raises
+        ------
+        RuntimeError
+            If the cell is masked.
+        ValueError
+            If an index lies outside the grid.
+        """
+    @typing.overload
+    def __call__(self, i: int) -> numpy.ndarray[numpy.float64[3, 1]]:
+        """
+        The location of the active cell at a position.
+
+        Parameters
+        ----------
+        i : int
+            Position among the active cells, from 0.
+
+        Returns
+        -------
+        ndarray of shape (3,)
+            The low corner of the cell.
+
+        Raises
+        ------
+        ValueError
+            If there is no such position.
+        """
+    def __init__(self, base_grid: CartesianGrid, mask: numpy.typing.ArrayLike) -> None:
+        """
+        A block model over a grid.
+
+        Parameters
+        ----------
+        base_grid : CartesianGrid
+            The grid; it is copied.
+        mask : sequence of bool
+            One flag for each cell in the order of ids, True for an active one.
+
+        Raises
+        ------
+        ValueError
+            If `mask` has another length than the grid.
+        """
+    def __len__(self) -> int:
+        """
+        The number of active cells.
+
+        Returns
+        -------
+        int
+            The number of flags that are True.
+        """
+    def base_grid(self) -> CartesianGrid:
+        """
+        The grid of the block model.
+
+        Returns
+        -------
+        CartesianGrid
+            A copy.
+        """
+    def bounding_box(self) -> BoundingBox:
+        """
+        The axis-aligned box of the grid's corners.
+
+        Returns
+        -------
+        BoundingBox
+            It holds all cell locations.
+        """
+    def cell_size(self) -> numpy.ndarray[numpy.float64[3, 1]]:
+        """
+        The diagonal of a cell.
+
+        Returns
+        -------
+        ndarray of shape (3,)
+            Length units; under a rotation in real coordinates, with their signs.
+        """
+    def full_size(self) -> int:
+        """
+        The number of all cells of the grid.
+
+        Returns
+        -------
+        int
+            Active and masked cells.
+        """
+    def ijk(self, i: int) -> tuple[int, int, int]:
+        """
+        The indices of the active cell at a position.
+
+        Parameters
+        ----------
+        i : int
+            Position among the active cells, from 0.
+
+        Returns
+        -------
+        tuple of three int
+            i, j and k in the grid.
+
+        Raises
+        ------
+        ValueError
+            If there is no such position.
+        """
+    def locations(self) -> list[numpy.ndarray[numpy.float64[3, 1]]]:
+        """
+        The locations of the active cells.
+
+        Returns
+        -------
+        list of ndarray of shape (3,)
+            By ascending id.
+        """
+    def number_of_cells(self) -> tuple[int, int, int]:
+        """
+        The numbers of cells of the grid.
+
+        Returns
+        -------
+        tuple of three int
+            Along i, j and k.
+        """
+class BoundingBox:
+    """
+
+    The axis-aligned box around a set of points.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> gravelox.BoundingBox([(0, 0, 0), (1, 2, 3)]).length().tolist()
+    [1.0, 2.0, 3.0]
+    """
+    def __init__(self, corners: numpy.typing.ArrayLike) -> None:
+        """
+        The box of some points.
+
+        Parameters
+        ----------
+        corners : array_like of shape (n, 3)
+            The points. Without any the box is empty: lower is 1e30, upper -1e30 on each axis.
+        """
+    def corners(self) -> list[numpy.ndarray[numpy.float64[3, 1]]]:
+        """
+        The points that the box was made from.
+
+        Returns
+        -------
+        list of ndarray of shape (3,)
+            In their order.
+        """
+    def length(self) -> numpy.ndarray[numpy.float64[3, 1]]:
+        """
+        The extents of the box.
+
+        Returns
+        -------
+        ndarray of shape (3,)
+            Per axis the greatest distance between two of the points, 0 without points.
+        """
+    def lower(self) -> numpy.ndarray[numpy.float64[3, 1]]:
+        """
+        The least coordinates of the box.
+
+        Returns
+        -------
+        ndarray of shape (3,)
+            Length units.
+        """
+    def upper(self) -> numpy.ndarray[numpy.float64[3, 1]]:
+        """
+        The greatest coordinates of the box.
+
+        Returns
+        -------
+        ndarray of shape (3,)
+            Length units.
+        """
+class CartesianGrid:
+    """
+
+    A regular grid, which may be rotated.
+
+    Cells are counted k fastest, then j, then i. The location of a cell is its low corner, and cell
+    (0, 0, 0) stands at the origin. With the default rotation (90, 0, 0) i, j and k run along x, y and
+    z; an azimuth of 0 lets i run north and j west.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> grid = gravelox.CartesianGrid((10, 10, 10), (2, 2, 2))
+    >>> len(grid), grid.ijk(7), grid(1, 1, 1).tolist()
+    (8, (1, 1, 1), [5.0, 5.0, 5.0])
+    """
+    @typing.overload
+    def __call__(self, i: int, j: int, k: int) -> numpy.ndarray[numpy.float64[3, 1]]:
+        """
+        The location of a cell.
+
+        Parameters
+        ----------
+        i, j, k : int
+            The indices of the cell.
+
+        Returns
+        -------
+        ndarray of shape (3,)
+            The low corner of the cell.
+
+        Raises
+        ------
+        ValueError
+            If an index lies outside the grid.
+        """
+    @typing.overload
+    def __call__(self, i: int) -> numpy.ndarray[numpy.float64[3, 1]]:
+        """
+        The location of a cell by its id.
+
+        Parameters
+        ----------
+        i : int
+            The id of the cell.
+
+        Returns
+        -------
+        ndarray of shape (3,)
+            The low corner of the cell.
+
+        Raises
+        ------
+        ValueError
+            If the id lies outside the grid.
+        """
+    @typing.overload
+    def __init__(self, length: numpy.typing.ArrayLike, number_of_cells: tuple[int, int, int], origin: numpy.typing.ArrayLike = (0, 0, 0), rotation: numpy.typing.ArrayLike = (90, 0, 0)) -> None:
+        """
+        A grid from its lengths and numbers of cells.
+
+        Parameters
+        ----------
+        length : array_like of shape (3,)
+            Lengths along i, j, k, in length units. One that is not above 1e-30 counts as 1.
+        number_of_cells : tuple of three int
+            Cells along i, j, k, each at least 1.
+        origin : array_like of shape (3,)
+            Location of cell (0, 0, 0).
+        rotation : array_like of shape (3,)
+            Azimuth, dip and rake in degrees.
+
+        Raises
+        ------
+        ValueError
+            If a count is below 1 or there are more than 2147483647 cells.
+        """
+    @typing.overload
+    def __init__(self, length: numpy.typing.ArrayLike, cell_size: numpy.typing.ArrayLike, origin: numpy.typing.ArrayLike = (0, 0, 0), rotation: numpy.typing.ArrayLike = (90, 0, 0)) -> None:
+        """
+        A grid from its lengths and cell sizes.
+
+        Parameters
+        ----------
+        length : array_like of shape (3,)
+            Lengths along i, j, k, in length units.
+        cell_size : array_like of shape (3,)
+            Sizes of a cell along i, j, k. The counts are the whole parts of length / cell_size, as
+            doubles have it: 0.3 / 0.1 gives 2 cells.
+        origin : array_like of shape (3,)
+            Location of cell (0, 0, 0).
+        rotation : array_like of shape (3,)
+            Azimuth, dip and rake in degrees.
+
+        Raises
+        ------
+        ValueError
+            If a count would be below 1 or there are more than 2147483647 cells.
+        """
+    @typing.overload
+    def __init__(self, number_of_cells: tuple[int, int, int], cell_size: numpy.typing.ArrayLike, origin: numpy.typing.ArrayLike = (0, 0, 0), rotation: numpy.typing.ArrayLike = (90, 0, 0)) -> None:
+        """
+        A grid from its numbers and sizes of cells; give them by name.
+
+        Parameters
+        ----------
+        number_of_cells : tuple of three int
+            Cells along i, j, k, each at least 1. They are counted again from length and size, so rounding
+            may give one fewer.
+        cell_size : array_like of shape (3,)
+            Sizes of a cell along i, j, k, in length units.
+        origin : array_like of shape (3,)
+            Location of cell (0, 0, 0).
+        rotation : array_like of shape (3,)
+            Azimuth, dip and rake in degrees.
+
+        Raises
+        ------
+        ValueError
+            If a count is below 1 or there are more than 2147483647 cells.
+        """
+    def __len__(self) -> int:
+        """
+        The number of cells.
+
+        Returns
+        -------
+        int
+            The product of the three counts.
+        """
+    def bounding_box(self) -> BoundingBox:
+        """
+        The axis-aligned box of the grid's corners.
+
+        Returns
+        -------
+        BoundingBox
+            It holds all cell locations.
+        """
+    def cell_size(self) -> numpy.ndarray[numpy.float64[3, 1]]:
+        """
+        The diagonal of a cell.
+
+        Returns
+        -------
+        ndarray of shape (3,)
+            Length units; under a rotation in real coordinates, with their signs.
+        """
+    def corners(self) -> list[numpy.ndarray[numpy.float64[3, 1]]]:
+        """
+        The 8 outermost cell locations of the grid.
+
+        Returns
+        -------
+        list of ndarray of shape (3,)
+            Low corners of cells, not the ends of the grid; k runs fastest.
+        """
+    def ijk(self, i: int) -> tuple[int, int, int]:
+        """
+        The indices of a cell.
+
+        Parameters
+        ----------
+        i : int
+            The id of the cell.
+
+        Returns
+        -------
+        tuple of three int
+            i, j and k.
+
+        Raises
+        ------
+        ValueError
+            If the id lies outside the grid.
+        """
+    def index(self, arg0: int, arg1: int, arg2: int) -> int:
+        """
+        The id of a cell: (i ny + j) nz + k.
+
+        Parameters
+        ----------
+        arg0, arg1, arg2 : int
+            The indices i, j, k.
+
+        Returns
+        -------
+        int
+            The id.
+
+        Raises
+        ------
+        ValueError
+            If an index lies outside the grid.
+        """
+    def locations(self) -> list[numpy.ndarray[numpy.float64[3, 1]]]:
+        """
+        The locations of all cells.
+
+        Returns
+        -------
+        list of ndarray of shape (3,)
+            In the order of the ids.
+        """
+    def number_of_cells(self) -> tuple[int, int, int]:
+        """
+        The numbers of cells of the grid.
+
+        Returns
+        -------
+        tuple of three int
+            Along i, j and k.
+        """
+    def transformation(self) -> Ellipsoid:
+        """
+        The map from real coordinates, relative to the origin, to the unit cube.
+
+        Returns
+        -------
+        Ellipsoid
+            A copy.
+        """
+class Covariance:
+    """
+
+    One structure of a covariance model: a sill, an anisotropy and a shape.
+
+    A model is a list of structures, added up. Instances come from the static methods.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> ellipsoid = gravelox.Ellipsoid(100, 50, 20, 45, 0, 0)
+    >>> model = [gravelox.Covariance.nugget(0.1), gravelox.Covariance.spherical(0.9, ellipsoid)]
+    >>> gravelox.covariance_computer(model)((0, 0, 0))
+    1.0
+    """
+    @staticmethod
+    def exponential(sill: float, ellipsoid: Ellipsoid) -> Covariance:
+        """
+        An exponential structure: sill exp(-3 h), h being the distance divided by the range.
+
+        Parameters
+        ----------
+        sill : float
+            Variance of the structure, in data units squared.
+        ellipsoid : Ellipsoid
+            Its practical ranges and axes.
+
+        Returns
+        -------
+        Covariance
+            The structure.
+        """
+    @staticmethod
+    def gaussian(sill: float, ellipsoid: Ellipsoid) -> Covariance:
+        """
+        A gaussian structure: sill exp(-3 h^2), h being the distance divided by the range.
+
+        Parameters
+        ----------
+        sill : float
+            Variance of the structure, in data units squared.
+        ellipsoid : Ellipsoid
+            Its practical ranges and axes.
+
+        Returns
+        -------
+        Covariance
+            The structure.
+        """
+    @staticmethod
+    def nugget(sill: float) -> Covariance:
+        """
+        A nugget: its sill for lags shorter than 1e-8 length units, and 0 beyond.
+
+        Parameters
+        ----------
+        sill : float
+            Variance of the nugget, in data units squared.
+
+        Returns
+        -------
+        Covariance
+            The structure.
+        """
+    @staticmethod
+    def spherical(sill: float, ellipsoid: Ellipsoid) -> Covariance:
+        """
+        A spherical structure: sill (1 - 1.5 h + 0.5 h^3) up to the range, and 0 beyond.
+
+        Parameters
+        ----------
+        sill : float
+            Variance of the structure, in data units squared.
+        ellipsoid : Ellipsoid
+            Its ranges and axes.
+
+        Returns
+        -------
+        Covariance
+            The structure.
+        """
+    def __call__(self, h: numpy.typing.ArrayLike) -> float:
+        """
+        The covariance at a lag.
+
+        Parameters
+        ----------
+        h : array_like of shape (3,)
+            Lag vector in length units.
+
+        Returns
+        -------
+        float
+            The sill times the kernel at the lag's length in isotropic space.
+        """
+    def ellipsoid(self) -> Ellipsoid:
+        """
+        The anisotropy of the structure.
+
+        Returns
+        -------
+        Ellipsoid
+            A copy.
+        """
+    def sill(self) -> float:
+        """
+        The sill of the structure.
+
+        Returns
+        -------
+        float
+            Variance, in data units squared.
+        """
+    def type(self) -> str:
+        """
+        The label of the structure.
+
+        Returns
+        -------
+        str
+            "spherical", "gaussian", "exponential", "nugget" or "idw".
+        """
+class DynamicNeighborhood:
+    """
+
+    A search over a list of locations that grows and shrinks.
+
+    Queries follow the rules of `Neighborhood`. Ids count on through additions, and removals shift
+    none. Each addition also enters the id after its last one, which the next addition then enters a
+    second time: queries may list such an id twice once its location is there. Do not change an object
+    while another thread queries it.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> hood = gravelox.DynamicNeighborhood([(0, 0, 0), (1, 0, 0)])
+    >>> hood.add_point((0.1, 0, 0))
+    >>> hood.remove_point(0)
+    >>> hood.nearest_neighbor((0, 0, 0))
+    2
+    """
+    @typing.overload
+    def __init__(self) -> None:
+        """
+        An empty search in real coordinates.
+        """
+    @typing.overload
+    def __init__(self, ellipsoid: Ellipsoid) -> None:
+        """
+        An empty search in the space of an ellipsoid.
+
+        Parameters
+        ----------
+        ellipsoid : Ellipsoid
+            The map before any distance is taken.
+        """
+    @typing.overload
+    def __init__(self, locations: numpy.typing.ArrayLike, ellipsoid: Ellipsoid) -> None:
+        """
+        A search in the space of an ellipsoid.
+
+        Parameters
+        ----------
+        locations : array_like of shape (n, 3)
+            Locations in length units; they are copied.
+        ellipsoid : Ellipsoid
+            The map before any distance is taken.
+
+        Raises
+        ------
+        ValueError
+            If a coordinate is NaN or infinite.
+        """
+    @typing.overload
+    def __init__(self, locations: numpy.typing.ArrayLike) -> None:
+        """
+        A search in real coordinates.
+
+        Parameters
+        ----------
+        locations : array_like of shape (n, 3)
+            Locations in length units; they are copied.
+
+        Raises
+        ------
+        ValueError
+            If a coordinate is NaN or infinite.
+        """
+    def add_point(self, point: numpy.typing.ArrayLike) -> None:
+        """
+        Add a location; its id is the number of locations stored so far.
+
+        Parameters
+        ----------
+        point : array_like of shape (3,)
+            Real coordinates.
+
+        Raises
+        ------
+        ValueError
+            If a coordinate is not finite.
+        """
+    def add_points(self, points: numpy.typing.ArrayLike) -> None:
+        """
+        Add locations; their ids count on from the number of locations stored so far.
+
+        Parameters
+        ----------
+        points : array_like of shape (n, 3)
+            Real coordinates.
+
+        Raises
+        ------
+        ValueError
+            If a coordinate is not finite.
+        """
+    @typing.overload
+    def find_neighbors(self, center: numpy.typing.ArrayLike, max_size: int) -> list[int]:
+        """
+        The nearest locations, chosen when the second argument is an int.
+
+        Parameters
+        ----------
+        center : array_like of shape (3,)
+            Real coordinates of the centre.
+        max_size : int
+            How many; at most as many as were stored, removed ones included.
+
+        Returns
+        -------
+        list of int
+            Ids, nearest first. An id entered twice can come twice, and places that no location fills,
+            since some were removed, are 0 at the end.
+
+        Raises
+        ------
+        ValueError
+            If `max_size` is negative or a coordinate is not finite.
+        """
+    @typing.overload
+    def find_neighbors(self, center: numpy.typing.ArrayLike, max_radius: float) -> list[int]:
+        """
+        The locations within a radius, chosen when the second argument is a float.
+
+        The error factor of this search is 1 + `max_radius` squared.
+
+        Parameters
+        ----------
+        center : array_like of shape (3,)
+            Real coordinates of the centre.
+        max_radius : float
+            Radius in the space of the search. A location exactly at the radius is left out; a negative
+            radius counts by its absolute value.
+
+        Returns
+        -------
+        list of int
+            Ids in the order of the search: not sorted by distance. An id added twice can come twice.
+
+        Raises
+        ------
+        ValueError
+            If a coordinate is not finite.
+        """
+    def nearest_neighbor(self, point: numpy.typing.ArrayLike) -> int:
+        """
+        The nearest location, as far as the approximate search finds it.
+
+        Parameters
+        ----------
+        point : array_like of shape (3,)
+            Real coordinates of the centre.
+
+        Returns
+        -------
+        int
+            The id; 0 where all locations have been removed.
+
+        Raises
+        ------
+        ValueError
+            If nothing was ever stored or a coordinate is not finite.
+        """
+    def remove_point(self, id: int) -> None:
+        """
+        Leave a location out of all queries from now on.
+
+        A search by count still returns as many ids as locations were stored, if asked for that many;
+        places that no location fills are 0.
+
+        Parameters
+        ----------
+        id : int
+            The id; one that was never added is ignored.
+
+        Raises
+        ------
+        ValueError
+            If `id` is negative.
+        """
+class Ellipsoid:
+    """
+
+    An anisotropy: the linear map to a space in which the ellipsoid is the unit sphere.
+
+    Distances of covariances, neighbour searches and variograms are measured after this map. x is
+    east, y north, z up. The axis of range r1 points along the azimuth (clockwise from north) and the
+    dip (positive upward); rake turns the axes of r2 and r3 about it. All angles are in degrees.
+    Azimuth 90, dip 0, rake 0 lays the axes along x, y and z. Instances never change.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> gravelox.Ellipsoid(10, 5, 2, 0, 0, 0).forward((0, 10, 0)).round(6).tolist()
+    [1.0, 0.0, 0.0]
+    """
+    @typing.overload
+    def __init__(self, anisotropy_matrix: numpy.typing.ArrayLike) -> None:
+        """
+        An ellipsoid from its matrix, taken as it stands.
+
+        Parameters
+        ----------
+        anisotropy_matrix : array_like of shape (3, 3)
+            The map from real to isotropic coordinates; its rows are the axes, each of length 1 / range.
+            A singular matrix is not refused: its inverse has infinities and NaN.
+        """
+    @typing.overload
+    def __init__(self, r1: float, r2: float, r3: float, azimuth: float, dip: float, rake: float) -> None:
+        """
+        An ellipsoid from ranges and angles.
+
+        Parameters
+        ----------
+        r1, r2, r3 : float
+            Ranges (semi-axes) in length units. One that is not above 1e-30 counts as 1.
+        azimuth, dip, rake : float
+            Angles in degrees.
+        """
+    @typing.overload
+    def __init__(self, length: numpy.typing.ArrayLike, rotation: numpy.typing.ArrayLike) -> None:
+        """
+        An ellipsoid from ranges and angles in two vectors.
+
+        Parameters
+        ----------
+        length : array_like of shape (3,)
+            Ranges (r1, r2, r3) in length units. One that is not above 1e-30 counts as 1.
+        rotation : array_like of shape (3,)
+            Angles (azimuth, dip, rake) in degrees.
+        """
+    @typing.overload
+    def __init__(self, ellipsoid_info: EllipsoidInfo) -> None:
+        """
+        An ellipsoid from a record of ranges and angles.
+
+        Parameters
+        ----------
+        ellipsoid_info : EllipsoidInfo
+            Ranges and angles. Of an ellipsoid whose axes are left-handed after sorting, the record does
+            not give that ellipsoid back.
+        """
+    def __str__(self) -> str:
+        """
+        The values of `info` as text.
+
+        Returns
+        -------
+        str
+            "{r1: 10.000000, r2: ..., rake: 0.000000} ", the closing blank included.
+        """
+    @typing.overload
+    def backward(self, location: numpy.typing.ArrayLike) -> numpy.ndarray[numpy.float64[3, 1]]:
+        """
+        Map a location from isotropic to real coordinates.
+
+        Parameters
+        ----------
+        location : array_like of shape (3,)
+            Isotropic coordinates.
+
+        Returns
+        -------
+        ndarray of shape (3,)
+            Real coordinates, in length units.
+        """
+    @typing.overload
+    def backward(self, locs: numpy.typing.ArrayLike, n_threads: int = 0) -> list[numpy.ndarray[numpy.float64[3, 1]]]:
+        """
+        Map many locations from isotropic to real coordinates, in parallel.
+
+        Parameters
+        ----------
+        locs : array_like of shape (n, 3)
+            Isotropic coordinates.
+        n_threads : int
+            Threads; 0 means all.
+
+        Returns
+        -------
+        list of ndarray of shape (3,)
+            Real coordinates in the order of `locs`, the same for any number of threads.
+        """
+    def directions(self, n_directions: int = 600, n_lags: int = 300, seed: int = 12356) -> tuple[list[numpy.ndarray[numpy.float64[3, 1]]], list[int]]:
+        """
+        Points along rays from the origin through the ellipsoid's surface.
+
+        Parameters
+        ----------
+        n_directions : int
+            Half the number of rays.
+        n_lags : int
+            Number of points on each ray, at absolute standard normal multiples of the surface point.
+        seed : int
+            Seed of the rays and of the draws.
+
+        Returns
+        -------
+        points : list of ndarray of shape (3,)
+            2 `n_directions` `n_lags` points in real coordinates, ray by ray.
+        ids : list of int
+            The number of the ray of each point, from 0.
+        """
+    @typing.overload
+    def forward(self, location: numpy.typing.ArrayLike) -> numpy.ndarray[numpy.float64[3, 1]]:
+        """
+        Map a location from real to isotropic coordinates.
+
+        Parameters
+        ----------
+        location : array_like of shape (3,)
+            Real coordinates, in length units.
+
+        Returns
+        -------
+        ndarray of shape (3,)
+            Isotropic coordinates; a point on the ellipsoid has length 1.
+        """
+    @typing.overload
+    def forward(self, locs: numpy.typing.ArrayLike, n_threads: int = 0) -> list[numpy.ndarray[numpy.float64[3, 1]]]:
+        """
+        Map many locations from real to isotropic coordinates, in parallel.
+
+        Parameters
+        ----------
+        locs : array_like of shape (n, 3)
+            Real coordinates, in length units.
+        n_threads : int
+            Threads; 0 means all.
+
+        Returns
+        -------
+        list of ndarray of shape (3,)
+            Isotropic coordinates in the order of `locs`, the same for any number of threads.
+        """
+    def info(self) -> EllipsoidInfo:
+        """
+        Ranges and angles of the axes, by descending range.
+
+        Returns
+        -------
+        EllipsoidInfo
+            The reading of the matrix; a constructor's ranges come back sorted, with the angles to suit.
+        """
+    def inv_matrix(self) -> numpy.ndarray[numpy.float64[3, 3]]:
+        """
+        The map from isotropic to real coordinates.
+
+        Returns
+        -------
+        ndarray of shape (3, 3)
+            A copy of the inverse matrix.
+        """
+    def major_axis(self) -> numpy.ndarray[numpy.float64[3, 1]]:
+        """
+        The longest axis.
+
+        Returns
+        -------
+        ndarray of shape (3,)
+            A vector along the axis, as long as its range, pointing towards +x (on a tie +y, then +z).
+        """
+    def matrix(self) -> numpy.ndarray[numpy.float64[3, 3]]:
+        """
+        The map from real to isotropic coordinates.
+
+        Returns
+        -------
+        ndarray of shape (3, 3)
+            A copy of the matrix.
+        """
+    def mid_axis(self) -> numpy.ndarray[numpy.float64[3, 1]]:
+        """
+        The middle axis.
+
+        Returns
+        -------
+        ndarray of shape (3,)
+            A vector along the axis, as long as its range, pointing towards +y (on a tie +x, then +z).
+        """
+    def minor_axis(self) -> numpy.ndarray[numpy.float64[3, 1]]:
+        """
+        The shortest axis.
+
+        Returns
+        -------
+        ndarray of shape (3,)
+            A vector along the axis, as long as its range, pointing towards +z where it is not horizontal.
+        """
+    def surface(self, n_points: int = 600, seed: int = 12546) -> list[numpy.ndarray[numpy.float64[3, 1]]]:
+        """
+        Points spread evenly over the ellipsoid's surface.
+
+        Parameters
+        ----------
+        n_points : int
+            Half the number of points; below 1 there are none.
+        seed : int
+            Seed of the Halton indices and of their random rotation.
+
+        Returns
+        -------
+        list of ndarray of shape (3,)
+            2 `n_points` points in real coordinates, around the origin. See `generate_random_sphere`.
+        """
+    def volume(self, n_points: int = 600, n_lags: int = 300, seed: int = 12356) -> list[numpy.ndarray[numpy.float64[3, 1]]]:
+        """
+        Points scattered through the ellipsoid and around it.
+
+        Parameters
+        ----------
+        n_points : int
+            Half the number of points of one lag.
+        n_lags : int
+            Number of lags: surfaces scaled by the absolute value of a standard normal draw.
+        seed : int
+            Seed of the draws; the surfaces' seeds count on from it.
+
+        Returns
+        -------
+        list of ndarray of shape (3,)
+            2 `n_points` `n_lags` points in real coordinates, denser towards the origin and unbounded.
+        """
+class EllipsoidInfo:
+    """
+
+    Ranges and angles of an ellipsoid, as read off its matrix by `Ellipsoid.info`.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> gravelox.Ellipsoid(5, 10, 2, 0, 0, 0).info().r1()
+    10.0
+    """
+    def azimuth(self) -> float:
+        """
+        The azimuth of the longest axis, in degrees clockwise from north.
+
+        Returns
+        -------
+        float
+            An angle in [0, 360).
+        """
+    def dip(self) -> float:
+        """
+        The dip of the longest axis, in degrees, positive upward.
+
+        Returns
+        -------
+        float
+            An angle in [-90, 90].
+        """
+    def r1(self) -> float:
+        """
+        The largest range, in length units.
+
+        Returns
+        -------
+        float
+            The length of the longest semi-axis.
+        """
+    def r2(self) -> float:
+        """
+        The middle range, in length units.
+
+        Returns
+        -------
+        float
+            The length of the middle semi-axis.
+        """
+    def r3(self) -> float:
+        """
+        The smallest range, in length units.
+
+        Returns
+        -------
+        float
+            The length of the shortest semi-axis.
+        """
+    def rake(self) -> float:
+        """
+        The turn of the other two axes about the longest one, in degrees.
+
+        Returns
+        -------
+        float
+            An angle in [-180, 180]; 0 where the longest axis is vertical.
+        """
+class Estimator:
+    """
+
+    An estimator with its parameters, made by `IDW`, `SimpleKriging` or `OrdinaryKriging`.
+
+    It keeps no state between calls and can be used on any data.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> locations = [(0, 0, 0), (1, 0, 0)]
+    >>> estimator = gravelox.IDW(max_neighbors=2)
+    >>> estimates = estimator([(0, 0, 0)], gravelox.Neighborhood(locations), locations, [10, 20])
+    >>> round(estimates[0], 6)
+    11.0
+    """
+    def __call__(self, target_locs: numpy.typing.ArrayLike, neighborhood: Neighborhood, data_locs: numpy.typing.ArrayLike, data: numpy.typing.ArrayLike, n_threads: int = 0) -> list[float]:
+        """
+        Estimate at the targets, in parallel.
+
+        Parameters
+        ----------
+        target_locs : array_like of shape (m, 3)
+            Where to estimate.
+        neighborhood : Neighborhood
+            A search over the samples' locations.
+        data_locs : array_like of shape (n, 3)
+            Locations of the samples, those of the neighbourhood first.
+        data : sequence of float of length n
+            Values of the samples, in data units.
+        n_threads : int
+            Threads; 0 means all. Estimates do not depend on it.
+
+        Returns
+        -------
+        list of float
+            One estimate for each target, in data units; NaN where no sample is found.
+
+        Raises
+        ------
+        ValueError
+            If lists differ in length, a coordinate is not finite, or the neighbourhood holds more
+            locations than `data_locs`.
+        """
+class Kernel:
+    """
+
+    The normalised shape of a covariance structure, called with a distance in isotropic space.
+
+    At a distance of 1, the range, a spherical kernel reaches 0, and the gaussian and the exponential
+    kernel reach exp(-3): ranges are practical ranges.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> gravelox.Kernel.spherical(0.5)
+    0.3125
+    """
+    exponential: typing.ClassVar[Kernel]  # value = <gravelox.Kernel object>
+    gaussian: typing.ClassVar[Kernel]  # value = <gravelox.Kernel object>
+    spherical: typing.ClassVar[Kernel]  # value = <gravelox.Kernel object>
+    def __call__(self, h: float) -> float:
+        """
+        The value of the shape.
+
+        Parameters
+        ----------
+        h : float
+            Distance divided by the range. A negative one is taken as it is.
+
+        Returns
+        -------
+        float
+            1 at distance 0 for the named shapes.
+        """
+class Neighborhood:
+    """
+
+    A search tree over a fixed list of locations.
+
+    Ids are positions in the list. With an ellipsoid all distances are measured in its space: a radius
+    of 1 is then the ellipsoid itself. The search is approximate by design and always the same: a part
+    of the tree is entered only if eleven times the squared distance to its region is at most the
+    squared distance of the worst point found so far, so a close point across a split can be missed.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> hood = gravelox.Neighborhood([(0, 0, 0), (1, 0, 0), (5, 0, 0)])
+    >>> hood.find_neighbors((0.9, 0, 0), 2)
+    [1, 0]
+    >>> hood.find_neighbors((0.9, 0, 0), max_radius=0.5)
+    [1]
+    """
+    @typing.overload
+    def __init__(self, locations: numpy.typing.ArrayLike, ellipsoid: Ellipsoid) -> None:
+        """
+        A search in the space of an ellipsoid.
+
+        Parameters
+        ----------
+        locations : array_like of shape (n, 3)
+            Locations in length units; they are copied.
+        ellipsoid : Ellipsoid
+            The map before any distance is taken.
+
+        Raises
+        ------
+        ValueError
+            If a coordinate is NaN or infinite.
+        """
+    @typing.overload
+    def __init__(self, locations: numpy.typing.ArrayLike) -> None:
+        """
+        A search in real coordinates.
+
+        Parameters
+        ----------
+        locations : array_like of shape (n, 3)
+            Locations in length units; they are copied.
+
+        Raises
+        ------
+        ValueError
+            If a coordinate is NaN or infinite.
+        """
+    @typing.overload
+    def find_neighbors(self, center: numpy.typing.ArrayLike, max_size: int) -> list[int]:
+        """
+        The nearest locations, chosen when the second argument is an int.
+
+        Parameters
+        ----------
+        center : array_like of shape (3,)
+            Real coordinates of the centre.
+        max_size : int
+            How many; at most as many as are stored.
+
+        Returns
+        -------
+        list of int
+            Ids, nearest first; of equal distances the one met first in the tree.
+
+        Raises
+        ------
+        ValueError
+            If `max_size` is negative or a coordinate is not finite.
+        """
+    @typing.overload
+    def find_neighbors(self, center: numpy.typing.ArrayLike, max_radius: float) -> list[int]:
+        """
+        The locations within a radius, chosen when the second argument is a float.
+
+        Parameters
+        ----------
+        center : array_like of shape (3,)
+            Real coordinates of the centre.
+        max_radius : float
+            Radius in the space of the search. A location exactly at the radius is left out; a negative
+            radius counts by its absolute value.
+
+        Returns
+        -------
+        list of int
+            Ids, nearest first; ties in no particular order.
+
+        Raises
+        ------
+        ValueError
+            If a coordinate is not finite.
+        """
+    def nearest_neighbor(self, arg0: numpy.typing.ArrayLike) -> int:
+        """
+        The nearest location, as far as the approximate search finds it.
+
+        Parameters
+        ----------
+        arg0 : array_like of shape (3,)
+            Real coordinates of the centre.
+
+        Returns
+        -------
+        int
+            The id.
+
+        Raises
+        ------
+        ValueError
+            If nothing is stored or a coordinate is not finite.
+        """
+class SpatialFunction:
+    """
+
+    A value for each location, such as a covariance model or one realisation of a field.
+
+    Instances come from other functions of the module.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> f = gravelox.covariance_computer([gravelox.Covariance.nugget(2.0)])
+    >>> f((0, 0, 0))
+    2.0
+    """
+    def __call__(self, location: numpy.typing.ArrayLike) -> float:
+        """
+        The value at a location.
+
+        Parameters
+        ----------
+        location : array_like of shape (3,)
+            Coordinates (x, y, z) in length units; for a covariance model, the lag vector.
+
+        Returns
+        -------
+        float
+            The value, in data units.
+        """
+def Direction(azimuth: float, dip: float) -> numpy.ndarray[numpy.float64[3, 1]]:
+    """
+    The unit vector at an azimuth and a dip.
+
+    Parameters
+    ----------
+    azimuth : float
+        Degrees clockwise from north.
+    dip : float
+        Degrees, positive upward.
+
+    Returns
+    -------
+    ndarray of shape (3,)
+        (sin azimuth cos dip, cos azimuth cos dip, sin dip).
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> gravelox.Direction(90, 0).round(6).tolist()
+    [1.0, 0.0, 0.0]
+    """
+@typing.overload
+def IDW(power_a: float = 2.0, max_weight: float = 0.9, max_neighbors: int = -1, max_radius: float = -1.0, max_neighbors_octant: int = -1, dhids: numpy.typing.ArrayLike = [], max_neis_by_dhid: int = -1) -> Estimator:
+    """
+    Inverse distance estimation with weights 1 / distance^`power_a`.
+
+    Distances are those in real coordinates. A single neighbour gives its value.
+
+    Parameters
+    ----------
+    power_a : float
+        Exponent of the distance.
+    max_weight : float
+        Share of the estimate that goes to samples on the target (nearer than 1e-30), where there are
+        any; the others get the rest. With 0, samples on the target are left out.
+    max_neighbors : int
+        Candidates are this many nearest samples; 0 and below switch to `max_radius`.
+    max_radius : float
+        Radius of the search in the neighbourhood's metric, used only without `max_neighbors`. A
+        negative radius counts by its absolute value, so the default is a radius of 1.
+    max_neighbors_octant : int
+        Most samples in each octant around the target (real coordinates); 0 and below: no limit.
+    dhids : list of int
+        Drill-hole id of each sample, or an empty list: no limit by hole.
+    max_neis_by_dhid : int
+        Most samples of one hole, counted after the octant limit; 0 and below: no limit.
+
+    Returns
+    -------
+    Estimator
+        To be called with targets, a neighbourhood and samples.
+
+    References
+    ----------
+    Shepard, D. (1968). A two-dimensional interpolation function for irregularly-spaced data.
+    Proceedings of the 23rd ACM National Conference, 517-524.
+    """
+@typing.overload
+def IDW(covs: list[Covariance], power_a: float = 2.0, max_weight: float = 0.9, max_neighbors: int = -1, max_radius: float = -1.0, max_neighbors_octant: int = -1, dhids: numpy.typing.ArrayLike = [], max_neis_by_dhid: int = -1) -> Estimator:
+    """
+    Inverse distance estimation whose distance is 1 minus the covariance.
+
+    Weights are 1 / (1 - covariance)^`power_a`, so the model's anisotropy shapes them.
+
+    Parameters
+    ----------
+    covs : list of Covariance
+        The model, with a total sill of 1.
+    power_a : float
+        Exponent of the distance.
+    max_weight : float
+        Share of the estimate that goes to samples on the target, where there are any; the others get
+        the rest. With 0, samples on the target are left out.
+    max_neighbors : int
+        Candidates are this many nearest samples; 0 and below switch to `max_radius`.
+    max_radius : float
+        Radius of the search in the neighbourhood's metric, used only without `max_neighbors`. A
+        negative radius counts by its absolute value, so the default is a radius of 1.
+    max_neighbors_octant : int
+        Most samples in each octant around the target (real coordinates); 0 and below: no limit.
+    dhids : list of int
+        Drill-hole id of each sample, or an empty list: no limit by hole.
+    max_neis_by_dhid : int
+        Most samples of one hole, counted after the octant limit; 0 and below: no limit.
+
+    Returns
+    -------
+    Estimator
+        To be called with targets, a neighbourhood and samples.
+    """
+def OrdinaryKriging(covs: list[Covariance], max_neighbors: int = -1, max_radius: float = -1.0, max_neighbors_octant: int = -1, dhids: numpy.typing.ArrayLike = [], max_neis_by_dhid: int = -1) -> Estimator:
+    """
+    Ordinary kriging: the mean is unknown.
+
+    The estimate is the weighted sum of the samples plus the Lagrange multiplier of the system. The
+    multiplier has the unit of the covariance and grows with the sills; with sills in data units
+    squared the estimates are plainly wrong. The weights do not depend on the scale of the sills, so
+    scale them: let them add up to about 1e-4 of the data's standard deviation.
+
+    Parameters
+    ----------
+    covs : list of Covariance
+        The covariance model.
+    max_neighbors : int
+        Candidates are this many nearest samples; 0 and below switch to `max_radius`.
+    max_radius : float
+        Radius of the search in the neighbourhood's metric, used only without `max_neighbors`. A
+        negative radius counts by its absolute value, so the default is a radius of 1.
+    max_neighbors_octant : int
+        Most samples in each octant around the target (real coordinates); 0 and below: no limit.
+    dhids : list of int
+        Drill-hole id of each sample, or an empty list: no limit by hole.
+    max_neis_by_dhid : int
+        Most samples of one hole, counted after the octant limit; 0 and below: no limit.
+
+    Returns
+    -------
+    Estimator
+        To be called with targets, a neighbourhood and samples.
+
+    References
+    ----------
+    Matheron, G. (1963). Principles of geostatistics. Economic Geology 58, 1246-1266.
+    """
+def Rotation(azimuth: float, dip: float, rake: float = 0.0) -> Ellipsoid:
+    """
+    The unit sphere, turned: an ellipsoid with all ranges 1.
+
+    Parameters
+    ----------
+    azimuth, dip : float
+        Direction of the first axis, in degrees.
+    rake : float
+        Turn of the other axes about the first, in degrees.
+
+    Returns
+    -------
+    Ellipsoid
+        Its matrix is the rotation.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> gravelox.Rotation(90, 0).matrix().round(6).tolist()
+    [[1.0, 0.0, 0.0], [0.0, 1.0, 0.0], [0.0, 0.0, 1.0]]
+    """
+def SimpleKriging(covs: list[Covariance], mean: float, max_neighbors: int = -1, max_radius: float = -1.0, max_neighbors_octant: int = -1, dhids: numpy.typing.ArrayLike = [], max_neis_by_dhid: int = -1) -> Estimator:
+    """
+    Simple kriging: the mean is known.
+
+    Parameters
+    ----------
+    covs : list of Covariance
+        The covariance model.
+    mean : float
+        The mean of the data, in data units.
+    max_neighbors : int
+        Candidates are this many nearest samples; 0 and below switch to `max_radius`.
+    max_radius : float
+        Radius of the search in the neighbourhood's metric, used only without `max_neighbors`. A
+        negative radius counts by its absolute value, so the default is a radius of 1.
+    max_neighbors_octant : int
+        Most samples in each octant around the target (real coordinates); 0 and below: no limit.
+    dhids : list of int
+        Drill-hole id of each sample, or an empty list: no limit by hole.
+    max_neis_by_dhid : int
+        Most samples of one hole, counted after the octant limit; 0 and below: no limit.
+
+    Returns
+    -------
+    Estimator
+        To be called with targets, a neighbourhood and samples.
+
+    References
+    ----------
+    Matheron, G. (1963). Principles of geostatistics. Economic Geology 58, 1246-1266.
+    """
+def check_n_threads(n_threads: int = 0) -> int:
+    """
+    Resolve a requested number of threads as every function with `n_threads` does.
+
+    Parameters
+    ----------
+    n_threads : int
+        Threads asked for. 1 up to the hardware count stand as they are; 0, anything above that count
+        and every negative number (-2 too) mean all of it.
+
+    Returns
+    -------
+    int
+        The number of threads that a parallel loop will use.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> gravelox.check_n_threads(1)
+    1
+    >>> gravelox.check_n_threads(-2) == gravelox.check_n_threads(0)
+    True
+    """
+def compute_ordinary_kriging(target_locs: numpy.typing.ArrayLike, data_locs: numpy.typing.ArrayLike, data: numpy.typing.ArrayLike, covs: list[Covariance], neighborhood: Neighborhood, max_neighbors: int, max_radius: float = -1.0, max_neighbors_octant: int = -1, n_threads: int = 0, dhids: numpy.typing.ArrayLike = [], max_neis_by_dhid: int = -1) -> tuple[list[float], list[float]]:
+    """
+    Estimates and variances of ordinary kriging, in parallel.
+
+    The estimate is the weighted sum of the samples plus the Lagrange multiplier of the system. The
+    multiplier has the unit of the covariance and grows with the sills; with sills in data units
+    squared the estimates are plainly wrong. The weights do not depend on the scale of the sills, so
+    scale them: let them add up to about 1e-4 of the data's standard deviation.
+
+    Each target has a system of its own over its neighbours. The interpreter lock is released.
+
+    Parameters
+    ----------
+    target_locs : array_like of shape (m, 3)
+        Where to estimate.
+    data_locs : array_like of shape (n, 3)
+        Locations of the samples, those of the neighbourhood first.
+    data : sequence of float of length n
+        Values of the samples, in data units.
+    covs : list of Covariance
+        The covariance model.
+    neighborhood : Neighborhood
+        A search over the samples' locations.
+    max_neighbors : int
+        Candidates are this many nearest samples; 0 and below switch to `max_radius`.
+    max_radius : float
+        Radius of the search in the neighbourhood's metric, used only without `max_neighbors`. A
+        negative radius counts by its absolute value, so the default is a radius of 1.
+    max_neighbors_octant : int
+        Most samples in each octant around the target (real coordinates); 0 and below: no limit.
+    n_threads : int
+        Threads; 0 means all. Estimates do not depend on it.
+    dhids : list of int
+        Drill-hole id of each sample, or an empty list: no limit by hole.
+    max_neis_by_dhid : int
+        Most samples of one hole, counted after the octant limit; 0 and below: no limit.
+
+    Returns
+    -------
+    estimates : list of float
+        One for each target, in data units. NaN without neighbours, and the sample's value with a
+        single one.
+    variances : list of float
+        Kriging variances, in units of the sills; 0 with fewer than two neighbours, otherwise at least
+        1e-10.
+
+    Raises
+    ------
+    ValueError
+        If lists differ in length, a coordinate is not finite, or the neighbourhood holds more
+        locations than `data_locs`.
+
+    References
+    ----------
+    Matheron, G. (1963). Principles of geostatistics. Economic Geology 58, 1246-1266.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> locations = [(0, 0, 0), (10, 0, 0)]
+    >>> scale = 1e-6  # of the sill, so that the multiplier does not show
+    >>> covs = [gravelox.Covariance.spherical(scale, gravelox.Ellipsoid(20, 20, 20, 90, 0, 0))]
+    >>> estimates, variances = gravelox.compute_ordinary_kriging(
+    ...     [(5, 0, 0)], locations, [1.0, 3.0], covs, gravelox.Neighborhood(locations), 2)
+    >>> round(estimates[0], 4), round(variances[0] / scale, 4)
+    (2.0, 0.3906)
+    """
+def compute_simple_kriging(target_locs: numpy.typing.ArrayLike, data_locs: numpy.typing.ArrayLike, data: numpy.typing.ArrayLike, covs: list[Covariance], mean: float, neighborhood: Neighborhood, max_neighbors: int, max_radius: float = -1.0, max_neighbors_octant: int = -1, n_threads: int = 0, dhids: numpy.typing.ArrayLike = [], max_neis_by_dhid: int = -1) -> tuple[list[float], list[float]]:
+    """
+    Estimates and variances of simple kriging, in parallel.
+
+    Each target has a system of its own over its neighbours. The interpreter lock is released.
+
+    Parameters
+    ----------
+    target_locs : array_like of shape (m, 3)
+        Where to estimate.
+    data_locs : array_like of shape (n, 3)
+        Locations of the samples, those of the neighbourhood first.
+    data : sequence of float of length n
+        Values of the samples, in data units.
+    covs : list of Covariance
+        The covariance model.
+    mean : float
+        The mean of the data, in data units.
+    neighborhood : Neighborhood
+        A search over the samples' locations.
+    max_neighbors : int
+        Candidates are this many nearest samples; 0 and below switch to `max_radius`.
+    max_radius : float
+        Radius of the search in the neighbourhood's metric, used only without `max_neighbors`. A
+        negative radius counts by its absolute value, so the default is a radius of 1.
+    max_neighbors_octant : int
+        Most samples in each octant around the target (real coordinates); 0 and below: no limit.
+    n_threads : int
+        Threads; 0 means all. Estimates do not depend on it.
+    dhids : list of int
+        Drill-hole id of each sample, or an empty list: no limit by hole.
+    max_neis_by_dhid : int
+        Most samples of one hole, counted after the octant limit; 0 and below: no limit.
+
+    Returns
+    -------
+    estimates : list of float
+        One for each target, in data units. NaN without neighbours, and the sample's value with a
+        single one.
+    variances : list of float
+        Kriging variances, in units of the sills; 0 with fewer than two neighbours, otherwise at least
+        1e-10.
+
+    Raises
+    ------
+    ValueError
+        If lists differ in length, a coordinate is not finite, or the neighbourhood holds more
+        locations than `data_locs`.
+
+    References
+    ----------
+    Matheron, G. (1963). Principles of geostatistics. Economic Geology 58, 1246-1266.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> locations = [(0, 0, 0), (10, 0, 0)]
+    >>> covs = [gravelox.Covariance.spherical(1.0, gravelox.Ellipsoid(20, 20, 20, 90, 0, 0))]
+    >>> estimates, variances = gravelox.compute_simple_kriging(
+    ...     [(5, 0, 0)], locations, [1.0, 3.0], covs, 2.0, gravelox.Neighborhood(locations), 2)
+    >>> round(estimates[0], 6)
+    2.0
+    """
+def covariance_computer(covs: list[Covariance]) -> SpatialFunction:
+    """
+    A covariance model as a function of the lag vector.
+
+    Parameters
+    ----------
+    covs : list of Covariance
+        The structures; without any the function is 0.
+
+    Returns
+    -------
+    SpatialFunction
+        The sum of the structures. At a lag of 0 that is the sum of the sills, nugget included.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> covs = [gravelox.Covariance.spherical(2.0, gravelox.Ellipsoid(10, 10, 10, 90, 0, 0))]
+    >>> gravelox.covariance_computer(covs)((10, 0, 0))
+    0.0
+    """
+@typing.overload
+def create_random_drillholes(bottom: numpy.typing.ArrayLike, top: numpy.typing.ArrayLike, n_samples_by_dh: int, min_len: float, max_len: float, n_drillholes: int, seed: int = 121415) -> tuple[list[numpy.ndarray[numpy.float64[3, 1]]], list[int]]:
+    """
+    Synthetic drill holes inside a box.
+
+    A hole runs straight from a collar at the level of `top` towards a foot at the level of `bottom`,
+    both uniform in plan. Hole ids start at 1.
+
+    Parameters
+    ----------
+    bottom, top : array_like of shape (3,)
+        Two opposite corners of the box, in length units.
+    n_samples_by_dh : int
+        Samples in a hole, at equal steps, the first at the collar.
+    min_len, max_len : float
+        Bounds of the share of the run from collar to foot that is sampled (1 is all of it).
+    n_drillholes : int
+        Number of holes; below 1 there are none.
+    seed : int
+        Seed of all draws.
+
+    Returns
+    -------
+    locations : list of ndarray of shape (3,)
+        Sample locations, hole by hole.
+    dhids : list of int
+        The hole id of each sample.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> locations, dhids = gravelox.create_random_drillholes(
+    ...     bottom=(0, 0, -100), top=(500, 500, 0), n_samples_by_dh=10, min_len=0.5, max_len=1,
+    ...     n_drillholes=3)
+    >>> len(locations), sorted(set(dhids))
+    (30, [1, 2, 3])
+    """
+@typing.overload
+def create_random_drillholes(l1: float, l2: float, n_drillholes: int, min_azimuth: float, max_azimuth: float, min_dip: float, max_dip: float, min_length: float, max_length: float, min_dist_to_bottom: float, max_dist_to_bottom: float, min_n_samples_by_dh: int, max_n_samples_by_dh: int, deformation: Ellipsoid = ..., seed: int = 121415) -> tuple[list[numpy.ndarray[numpy.float64[3, 1]]], list[int]]:
+    """
+    Synthetic drill holes of a campaign over a rectangle. Hole ids start at 0.
+
+    Parameters
+    ----------
+    l1, l2 : float
+        Extents of the collars in x and y, from 0, in length units.
+    n_drillholes : int
+        Number of holes; below 1 there are none.
+    min_azimuth, max_azimuth : float
+        Bounds of the holes' azimuth, in degrees.
+    min_dip, max_dip : float
+        Bounds of the holes' dip, in degrees, positive upward.
+    min_length, max_length : float
+        Bounds of the holes' length, in length units.
+    min_dist_to_bottom, max_dist_to_bottom : float
+        Collars stand at a z from the first to the sum of both.
+    min_n_samples_by_dh, max_n_samples_by_dh : int
+        Bounds of the number of samples in a hole; the draw between them is truncated.
+    deformation : Ellipsoid
+        Its backward map is applied to the samples. The default turns the holes by 90 degrees about
+        z; `Ellipsoid(1, 1, 1, 90, 0, 0)` leaves them where they are.
+    seed : int
+        Seed of all draws.
+
+    Returns
+    -------
+    locations : list of ndarray of shape (3,)
+        Sample locations, hole by hole.
+    dhids : list of int
+        The hole id of each sample.
+    """
+def extract_ellipsoid_info(T: numpy.typing.ArrayLike) -> EllipsoidInfo:
+    """
+    Ranges and angles of an anisotropy matrix.
+
+    Parameters
+    ----------
+    T : array_like of shape (3, 3)
+        A matrix whose rows are axes of length 1 / range, in any order.
+
+    Returns
+    -------
+    EllipsoidInfo
+        Ranges in descending order; azimuth in [0, 360), dip in [-90, 90], rake in [-180, 180]
+        degrees. A vertical longest axis has rake 0.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> gravelox.extract_ellipsoid_info([[0.5, 0, 0], [0, 0.1, 0], [0, 0, 1]]).r1()
+    10.0
+    """
+def generate_covariances(ellipsoid: Ellipsoid, n_kernels: int, cov_kernel: Kernel, n_covs: int, seed: int, delta_angle: float, min_str_range: float, max_str_range: float, min_sill: float, max_sill: float) -> list[list[Covariance]]:
+    """
+    Random nested models around an anisotropy, as starting points of a search.
+
+    Parameters
+    ----------
+    ellipsoid : Ellipsoid
+        The anisotropy to start from; the first model has it in every structure and no nugget.
+    n_kernels : int
+        Structures in a model, beside the nugget.
+    cov_kernel : Kernel
+        The shape of those structures. Their label reads "spherical" whatever the shape.
+    n_covs : int
+        Number of models; below 1 there are none.
+    seed : int
+        Seed of all draws.
+    delta_angle : float
+        Greatest change of azimuth, dip and rake, in degrees.
+    min_str_range, max_str_range : float
+        Bounds of the summed lengths of the structures' range vectors, as multiples of the largest
+        range of `ellipsoid`.
+    min_sill, max_sill : float
+        Bounds of the sills before they are scaled to add up to 1.
+
+    Returns
+    -------
+    list of list of Covariance
+        `n_covs` models of `n_kernels` structures and a nugget, in this order.
+
+    Raises
+    ------
+    ValueError
+        If `n_kernels` is negative.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> sphere = gravelox.Ellipsoid(100, 100, 100, 0, 0, 0)
+    >>> shape = gravelox.Kernel.spherical
+    >>> models = gravelox.generate_covariances(sphere, 2, shape, 3, 1, 10, 0.5, 1, 0.1, 1)
+    >>> [len(model) for model in models]
+    [3, 3, 3]
+    """
+def generate_random_semisphere(size: int, seed: int = 0) -> list[numpy.ndarray[numpy.float64[3, 1]]]:
+    """
+    Unit vectors spread evenly over a randomly turned half sphere.
+
+    Parameters
+    ----------
+    size : int
+        Number of vectors; below 1 there are none.
+    seed : int
+        First index of the Halton sequence, and seed of the rotation.
+
+    Returns
+    -------
+    list of ndarray of shape (3,)
+        `size` unit vectors.
+
+    References
+    ----------
+    Halton, J. H. (1960). On the efficiency of certain quasi-random sequences of points in evaluating
+    multi-dimensional integrals. Numerische Mathematik 2, 84-90.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> len(gravelox.generate_random_semisphere(5, seed=1))
+    5
+    """
+def generate_random_sphere(size: int, seed: int = 0) -> list[numpy.ndarray[numpy.float64[3, 1]]]:
+    """
+    Unit vectors spread evenly over the sphere.
+
+    Parameters
+    ----------
+    size : int
+        Half the number of vectors; below 1 there are none.
+    seed : int
+        First index of the Halton sequence, and seed of the rotation.
+
+    Returns
+    -------
+    list of ndarray of shape (3,)
+        2 `size` unit vectors. The second half is no mirror of the first: it has other indices.
+
+    References
+    ----------
+    Halton, J. H. (1960). On the efficiency of certain quasi-random sequences of points in evaluating
+    multi-dimensional integrals. Numerische Mathematik 2, 84-90.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> len(gravelox.generate_random_sphere(5, seed=1))
+    10
+    """
+def moving_window_estimation(target_locs: numpy.typing.ArrayLike, nei: Neighborhood, data_locs: numpy.typing.ArrayLike, data: numpy.typing.ArrayLike, covs: list[Covariance], max_neighbors: int, max_radius: float = -1.0, max_neighbors_octant: int = -1, dhids: numpy.typing.ArrayLike = [], max_neis_by_dhid: int = -1, n_threads: int = 0) -> list[float]:
+    """
+    A mean of the neighbours, weighted by a covariance model as a smoothing kernel.
+
+    Parameters
+    ----------
+    target_locs : array_like of shape (m, 3)
+        Where to estimate.
+    nei : Neighborhood
+        A search over the samples' locations.
+    data_locs : array_like of shape (n, 3)
+        Locations of the samples, those of the neighbourhood first.
+    data : sequence of float of length n
+        Values of the samples, in data units.
+    covs : list of Covariance
+        The weights: the covariance between target and sample, not inverted.
+    max_neighbors : int
+        Candidates are this many nearest samples; 0 and below switch to `max_radius`.
+    max_radius : float
+        Radius of the search in the neighbourhood's metric, used only without `max_neighbors`. A
+        negative radius counts by its absolute value, so the default is a radius of 1.
+    max_neighbors_octant : int
+        Most samples in each octant around the target (real coordinates); 0 and below: no limit.
+    dhids : list of int
+        Drill-hole id of each sample, or an empty list: no limit by hole.
+    max_neis_by_dhid : int
+        Most samples of one hole, counted after the octant limit; 0 and below: no limit.
+    n_threads : int
+        Threads; 0 means all. Estimates do not depend on it.
+
+    Returns
+    -------
+    list of float
+        One mean for each target, in data units. NaN without neighbours and where the weights add up
+        to 0, with a single neighbour as well.
+
+    Raises
+    ------
+    ValueError
+        If lists differ in length, a coordinate is not finite, or the neighbourhood holds more
+        locations than `data_locs`.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> locations = [(0, 0, 0), (10, 0, 0)]
+    >>> covs = [gravelox.Covariance.gaussian(1.0, gravelox.Ellipsoid(20, 20, 20, 90, 0, 0))]
+    >>> hood = gravelox.Neighborhood(locations)
+    >>> gravelox.moving_window_estimation([(5, 0, 0)], hood, locations, [1, 3], covs, 2)
+    [2.0]
+    """
+def orthogonolize_axes(T: numpy.typing.ArrayLike, sort: bool = True) -> numpy.ndarray[numpy.float64[3, 3]]:
+    """
+    Make the rows of a matrix orthogonal, without scaling them to unit length (Gram-Schmidt).
+
+    Parameters
+    ----------
+    T : array_like of shape (3, 3)
+        Rows that are not zero.
+    sort : bool
+        Whether to turn the rows round so that they point towards +x, +y and +z, with rules for ties.
+
+    Returns
+    -------
+    ndarray of shape (3, 3)
+        The orthogonal rows.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> gravelox.orthogonolize_axes([[1, 0, 0], [1, 1, 0], [0, 0, 2]]).tolist()
+    [[1.0, 0.0, 0.0], [0.0, 1.0, 0.0], [0.0, 0.0, 2.0]]
+    """
+def set_fft_n_threads(n_threads: int = 0) -> None:
+    """
+    Set the number of threads of Fourier transforms planned from now on.
+
+    Parameters
+    ----------
+    n_threads : int
+        Threads, resolved by `check_n_threads`. After import it is the full hardware count.
+    """
+def sort_matrix3d(T: numpy.typing.ArrayLike, orthogonalize: bool = True) -> numpy.ndarray[numpy.float64[3, 3]]:
+    """
+    Sort the rows of a matrix by ascending length, hence by descending range.
+
+    Parameters
+    ----------
+    T : array_like of shape (3, 3)
+        Rows of equal length keep their order. Equal means to the last bit: the rows of a rotated
+        sphere may change places by rounding.
+    orthogonalize : bool
+        Whether to pass the result through `orthogonolize_axes`.
+
+    Returns
+    -------
+    ndarray of shape (3, 3)
+        The sorted rows.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> gravelox.sort_matrix3d([[2, 0, 0], [0, 1, 0], [0, 0, 3]])[0].tolist()
+    [0.0, 1.0, 0.0]
+    """

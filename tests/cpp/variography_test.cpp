@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: MIT
+// Kernels and models that scripts do not reach: text, tables, and models with derivatives.
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cmath>
+#include <limits>
+#include <sstream>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "common/number.hpp"
+#include "variography/cov_computer.hpp"
+#include "variography/covariance.hpp"
+#include "variography/differentiable_covariance.hpp"
+#include "variography/kernel_table.hpp"
+
+namespace gravelox {
+namespace {
+
+using type = covariance_type;
+
+constexpr double infinity = std::numeric_limits<double>::infinity();
+const location lag(2, 1.5, -0.7);
+
+Covariance structure(type label) { return {label, 2.5, Ellipsoid(10, 6, 3, 30, -20, 40)}; }
+
+TEST(CovarianceType, WhatIsNotListedIsANugget) {
+  const std::array<std::string, 5> words{"spherical", "gaussian", "exponential", "nugget", "idw"};
+  for (int i = 1; i <= 5; ++i) {
+    EXPECT_EQ(static_cast<int>(to_covariance_type(words[i - 1])), i);
+    EXPECT_EQ(to_text(static_cast<type>(i)), words[i - 1]);
+  }
+  for (const char* other : {"", "Idw"}) EXPECT_EQ(to_covariance_type(other), type::nugget);
+  for (const int other : {-1, 0, 6}) {
+    EXPECT_EQ(to_text(static_cast<type>(other)), "nugget");
+    EXPECT_EQ(Kernel(static_cast<type>(other))(0.5), 0.0);
+  }
+}
+
+TEST(Kernel, ThresholdsOfNuggetAndInverseDistance) {
+  EXPECT_EQ(Kernel(type::nugget)(std::nextafter(1e-8, 0.0)), 1.0);
+  EXPECT_EQ(Kernel(type::nugget)(1e-8), 0.0);
+  EXPECT_EQ(create_cov_kernel<double>(type::nugget)(std::nextafter(1e-30, 0.0)), 1.0);
+  EXPECT_EQ(create_cov_kernel<double>(type::nugget)(1e-30), 0.0);
+  EXPECT_EQ(create_cov_kernel<jet>(type::nugget)(jet(1e-30)).a, 0.0);
+  EXPECT_EQ(Kernel(type::idw)(0.99e-6), 1e6);
+  EXPECT_DOUBLE_EQ(Kernel(type::idw)(1e-6), 1e12);
+  EXPECT_EQ(Kernel(type::idw)(4.0), 0.0625);
+}
+
+TEST(Covariance, Prints) {
+  std::ostringstream out;
+  out << std::vector<Covariance>{Covariance(type::gaussian, 0.25, Ellipsoid(1, 1, 1, 90, 0, 0)),
+                                 Covariance::nugget(3)};
+  const std::string ranges = "anisotropy:{r1: 1.000000, r2: 1.000000, r3: 1.000000, azimuth: ";
+  EXPECT_EQ(out.str().rfind("[{sill:0.25," + ranges + "90.000000, dip: ", 0), 0U);
+  EXPECT_NE(out.str().find("} ,type:gaussian},{sill:3," + ranges), std::string::npos);
+  EXPECT_EQ(out.str().substr(out.str().size() - 17), "} ,type:nugget},]");
+}
+
+// The process keeps its tables, so each test has a type of its own.
+
+TEST(KernelTable, ServesSmallerRequestsWithItsOwnSteps) {
+  const Covariance cov = structure(type::spherical);
+  const Kernel fine = get_kernel(cov, 1000);
+  const Kernel coarse = get_kernel(cov, 10);
+  for (const double h : {0.0, 0.0625, 0.35, 0.99}) {
+    EXPECT_EQ(fine(h), cov.kernel(std::trunc(1000 * h) / 1000)) << h;
+    EXPECT_EQ(coarse(-h), cov.kernel(std::trunc(10 * h) / 1000)) << h;
+  }
+  for (const double h : {1.0, 3e6, 1e300, infinity, -infinity}) EXPECT_EQ(fine(h), 0.0) << h;
+  const location beyond_half = 0.505 * cov.ellipsoid.major_axis();
+  EXPECT_EQ(create_cov_computer({cov, cov}, 10)(beyond_half), 5.0 * cov.kernel(5.0 / 1000));
+}
+
+TEST(KernelTable, FormulaBeyondTheTable) {
+  const Kernel kernel = get_kernel(structure(type::gaussian), 8);
+  EXPECT_EQ(kernel(0.9999), std::exp(-3 * 0.875 * 0.875));
+  EXPECT_DOUBLE_EQ(kernel(-1.25), std::exp(-3 * 1.25 * 1.25));
+  for (const double h : {1e9, 1e300, infinity}) EXPECT_EQ(kernel(h), 0.0) << h;
+  EXPECT_TRUE(std::isnan(kernel(std::nan(""))));
+}
+
+TEST(KernelTable, LabelChoosesTheTableAndTheKernelFillsIt) {
+  const auto own = [](type label) {
+    return Covariance(label, 1.0, Ellipsoid(1, 1, 1, 0, 0, 0), Kernel([](double h) { return h; }));
+  };
+  EXPECT_EQ(get_kernel(own(type::exponential), 64)(0.51), 0.5);
+  EXPECT_DOUBLE_EQ(get_kernel(own(type::exponential), 64)(2.0), std::exp(-6));
+  EXPECT_EQ(get_kernel(structure(type::exponential), 64)(0.51), 0.5);
+  for (const type label : {type::nugget, type::idw, static_cast<type>(9)}) {
+    EXPECT_EQ(get_kernel(own(label), 4)(0.3), 0.3);
+  }
+  EXPECT_THROW(get_kernel(structure(type::exponential), -1), std::invalid_argument);
+}
+
+TEST(DifferentiableCovariance, DerivativesAreThoseOfFiniteDifferences) {
+  const std::array<double, 7> at{10, 6, 3, 30, -20, 40, 2.5};
+  for (const type label : {type::spherical, type::gaussian, type::exponential, type::idw}) {
+    const auto value = [&](int k, double step) {
+      auto p = at;
+      p[k] += step;
+      return create_cov<double>(label, p[0], p[1], p[2], p[3], p[4], p[5], p[6])(lag);
+    };
+    std::array<jet, 7> p;
+    for (int k = 0; k < 7; ++k) p[k] = jet(at[k], k);
+    const jet result =
+        create_cov<jet>(label, p[0], p[1], p[2], p[3], p[4], p[5], p[6])(lag.cast<jet>());
+    EXPECT_NEAR(value(0, 0.0), structure(label)(lag), 1e-12) << to_text(label);
+    EXPECT_NEAR(result.a, structure(label)(lag), 1e-12) << to_text(label);
+    for (int k = 0; k < 7; ++k) {
+      EXPECT_NEAR(result.v[k], (value(k, 1e-5) - value(k, -1e-5)) / 2e-5, 1e-7)
+          << to_text(label) << " " << k;
+    }
+  }
+}
+
+TEST(DifferentiableCovariance, RangesOfNothingCountAsOne) {
+  const auto unit = create_cov<double>(type::gaussian, 10, 1, 1, 0, 0, 0, 1);
+  EXPECT_EQ(create_cov<double>(type::gaussian, 10, 0, -4, 0, 0, 0, 1)(lag), unit(lag));
+}
+
+TEST(NestedCovariance, AddsStructuresAndANuggetAtShortLags) {
+  const generic_cov_structure<double> a{type::spherical, 10, 6, 3, 30, -20, 40, 2.5};
+  const generic_cov_structure<double> b{type::nugget, 1, 1, 1, 0, 0, 0, 0.25};
+  const auto nested = create_nested_cov<double>({a, b, a}, 0.5);
+  EXPECT_EQ(nested(location(0, 0, 0)), 5.75);
+  EXPECT_NEAR(nested(location(0.99e-10, 0, 0)), 5.5, 1e-8);
+  EXPECT_NEAR(nested(location(1.01e-10, 0, 0)), 5.0, 1e-8);
+  EXPECT_NEAR(nested(lag), 2 * structure(type::spherical)(lag), 1e-12);
+  const auto nugget_alone = create_nested_cov<jet>({}, jet(0.5, 0));
+  EXPECT_EQ(nugget_alone((1e-11 * lag).cast<jet>()).v[0], 1.0);
+  EXPECT_EQ(nugget_alone(lag.cast<jet>()).v[0], 0.0);
+}
+
+}  // namespace
+}  // namespace gravelox

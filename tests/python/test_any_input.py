@@ -1,0 +1,83 @@
+"""Whatever its arguments, a call ends in a result or a Python exception: no crash, no hang."""
+
+import faulthandler
+import math
+import sys
+
+import gravelox
+import numpy as np
+import pytest
+from hypothesis import given
+from hypothesis import strategies as st
+from module_walk import CLASSES, FUNCTIONS, function
+
+PLAIN = st.sampled_from([0.0, 1.0, -1.0, 0.5, 3.0])
+ODD = st.sampled_from([1e-31, 1e-300, 1e300, math.nan, math.inf, -math.inf])
+FLOATS = st.one_of(PLAIN, PLAIN, PLAIN, ODD)
+SMALL = st.sampled_from([-(2**31), -1, 0, 1, 2, 7])
+INTS = SMALL | st.just(2**31 - 1)
+POINTS = st.tuples(FLOATS, FLOATS, FLOATS)
+SIMPLE = {
+    "float": FLOATS,
+    "int": INTS,
+    "bool": st.booleans(),
+    "numpy.ndarray[numpy.float64[3, 1]]": POINTS,
+    "numpy.ndarray[numpy.float64[3, 3]]": st.tuples(POINTS, POINTS, POINTS).map(np.array),
+    "tuple[int, int, int]": st.tuples(INTS, INTS, SMALL),
+}
+FOUR = [(0, 0, 0), (1, 0, 0), (0, 2, 0), (0, 0, 0)]
+METRICS = [gravelox.Ellipsoid(9, 4, 2, 10, 20, 30)]
+METRICS += [gravelox.Ellipsoid(np.full((3, 3), value)) for value in (0, math.nan)]
+GRID = gravelox.CartesianGrid((1, 1, 1), (2, 2, 1))
+COVS = [gravelox.Covariance.spherical(0.5, m) for m in METRICS] + [gravelox.Covariance.nugget(1)]
+OBJECTS = [
+    *METRICS,
+    *[m.info() for m in METRICS],
+    *[gravelox.Neighborhood(points, METRICS[0]) for points in ([], FOUR, FOUR * 4)],
+    *[gravelox.DynamicNeighborhood(), gravelox.DynamicNeighborhood(FOUR)],
+    *[gravelox.covariance_computer([]), gravelox.covariance_computer(COVS)],
+    *[gravelox.Kernel.spherical, gravelox.Kernel.gaussian],
+    *COVS,
+    GRID,
+    *[gravelox.BlockModel(GRID, [active] * 4) for active in (False, True)],
+    *[gravelox.BoundingBox([]), gravelox.BoundingBox(FOUR)],
+    gravelox.IDW(0.5, 0, 3, 2, 1, [1, 1, 2, 2], 1),
+    gravelox.SimpleKriging(COVS[2:], math.nan),
+    gravelox.OrdinaryKriging(COVS[:1] * 2, 4),
+]
+
+
+def values_of(name, kind):
+    """Arguments of a kind, as its signature writes it; what says how much to make stays small."""
+    if kind == "int" and (name.startswith("n_") or name.endswith(("n_samples_by_dh", "size"))):
+        return SMALL
+    if kind in SIMPLE:
+        return SIMPLE[kind]
+    if kind.startswith("list["):
+        fitting = {"data": [1.0] * 4, "mask": [True] * 4, "dhids": [], "covs": COVS}
+        return st.lists(values_of(name, kind[5:-1]), max_size=9) | st.just(fitting.get(name, FOUR))
+    return st.sampled_from([o for o in OBJECTS if type(o).__name__ == kind.rpartition(".")[2]])
+
+
+@pytest.mark.parametrize("name", FUNCTIONS)
+@given(data=st.data())
+def test_every_call_ends(name, data):
+    overload = data.draw(st.sampled_from(FUNCTIONS[name]))
+    chosen = [values_of(argument, kind) for argument, kind, _ in overload.arguments]
+    if chosen and data.draw(st.integers(0, 9)) == 9:
+        wrong = st.sampled_from([None, "x", [], [None]])
+        chosen[data.draw(st.integers(0, len(chosen) - 1))] = wrong
+    owner = name.partition(".")[0]
+    call = CLASSES[owner] if name.endswith("__init__") else function(name)
+    if overload.is_method and call is not CLASSES[owner]:
+        chosen.insert(0, values_of("self", owner))
+    args = [data.draw(strategy) for strategy in chosen]
+    faulthandler.dump_traceback_later(60, exit=True, file=sys.__stderr__)
+    try:
+        str(call(*args))
+    except SystemError:  # the interpreter's own word for a broken extension
+        raise
+    except Exception:
+        pass
+    finally:
+        faulthandler.cancel_dump_traceback_later()
