@@ -51,20 +51,23 @@ class first_exception {
 /// loop end; the one of the lowest index is then thrown on the calling thread.
 template <typename Body>
 void parallel_for(std::size_t n, int n_threads, const Body& body) {
-  const std::size_t threads = omp_in_parallel() ? 1 : std::min(n_thread_slots(n_threads), n);
-  if (threads <= 1) {
-    for (std::size_t i = 0; i < n; ++i) body(i, 0);
-    return;
-  }
   first_exception failure;
-  const auto end = static_cast<std::int64_t>(n);
-#pragma omp parallel for num_threads(static_cast <int>(threads)) schedule(static)
-  for (std::int64_t i = 0; i < end; ++i) {
-    const auto index = static_cast<std::size_t>(i);
+  const auto guarded_body = [&](std::size_t index, int thread_number) {
     try {
-      body(index, omp_get_thread_num());
+      body(index, thread_number);
     } catch (...) {
       failure.keep(index);
+    }
+  };
+  const std::size_t threads = omp_in_parallel() ? 1 : std::min(n_thread_slots(n_threads), n);
+  if (threads <= 1) {
+    for (std::size_t i = 0; i < n; ++i) guarded_body(i, 0);
+  } else {
+    const int region_size = static_cast<int>(threads);
+    const auto end = static_cast<std::int64_t>(n);
+#pragma omp parallel for num_threads(region_size) schedule(static)
+    for (std::int64_t i = 0; i < end; ++i) {
+      guarded_body(static_cast<std::size_t>(i), omp_get_thread_num());
     }
   }
   failure.rethrow();

@@ -7,6 +7,7 @@
 // with one pass over its memory, and a list of small arrays without the generic conversion;
 // anything else takes the general road, element by element. Every list is a copy.
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 #include <limits>
@@ -58,9 +59,10 @@ inline bool read_location(const PyArray_Proxy& array, gravelox::location& result
   return true;
 }
 
-/// Calls load_element(element, index) for each element of a sequence that is not text, as long as
-/// it returns true; begin(n) is told the length first. The length is asked for again at each step:
-/// a conversion may run Python code that changes the list.
+/// Calls load_element(element) for each element of a sequence that is not text, as long as it
+/// returns true; begin(n) is told first how many to make room for, and no more than is cheap: an
+/// object may claim any length. The length is asked for again at each step, since a conversion may
+/// run Python code that changes the list.
 template <typename Begin, typename LoadElement>
 bool load_sequence(handle source, const Begin& begin, const LoadElement& load_element) {
   if (PySequence_Check(source.ptr()) == 0 || isinstance<bytes>(source) || isinstance<str>(source)) {
@@ -71,7 +73,8 @@ bool load_sequence(handle source, const Begin& begin, const LoadElement& load_el
     PyErr_Clear();
     return false;
   }
-  begin(static_cast<std::size_t>(size));
+  constexpr ssize_t most_room = 1 << 20;
+  begin(static_cast<std::size_t>(std::min(size, most_room)));
   const bool is_list = PyList_CheckExact(source.ptr()) != 0;
   for (ssize_t i = 0; i < size; ++i) {
     object element;
@@ -82,7 +85,7 @@ bool load_sequence(handle source, const Begin& begin, const LoadElement& load_el
       element = reinterpret_steal<object>(PySequence_GetItem(source.ptr(), i));
       if (!element) throw error_already_set();
     }
-    if (!load_element(element, static_cast<std::size_t>(i))) return false;
+    if (!load_element(element)) return false;
   }
   return true;
 }
@@ -102,9 +105,16 @@ class type_caster<std::vector<gravelox::location>> {
       return doubles && load_table(*array_proxy(doubles.ptr()));
     }
     return load_sequence(
-        source, [this](std::size_t n) { value.assign(n, gravelox::location::Zero()); },
-        [this, convert](handle element, std::size_t i) {
-          return load_location(element, convert, value[i]);
+        source,
+        [this](std::size_t n) {
+          value.clear();
+          value.reserve(n);
+        },
+        [this, convert](handle element) {
+          gravelox::location point;
+          if (!load_location(element, convert, point)) return false;
+          value.push_back(point);
+          return true;
         });
   }
 
@@ -189,7 +199,7 @@ class number_list_caster {
           value.clear();
           value.reserve(n);
         },
-        [this, convert](handle element, std::size_t /*i*/) {
+        [this, convert](handle element) {
           element_caster number;
           if (!number.load(element, convert)) return false;
           value.push_back(cast_op<T>(number));

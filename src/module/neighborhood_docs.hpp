@@ -121,7 +121,8 @@ ValueError
 constexpr const char* find_neighbors_by_radius_unsorted = R"(
 The locations within a radius, chosen when the second argument is a float.
 
-The error factor of this search is 1 + `max_radius` squared.
+The error factor of this search is 1 + `max_radius` squared: the larger the radius, the more points
+beyond a split it misses. Use it with an ellipsoid and radii near 1.
 
 Parameters
 ----------

@@ -67,11 +67,12 @@ class type_caster<int> {
 
   bool load(handle source, bool /*convert*/) {
     if (!source) return false;
-    if (PyIndex_Check(source.ptr()) == 0) {
-      if (!is_of_type(source, numpy_scalars().boolean)) return false;
+    // Before the index: a numpy bool has one, and warns when it is used.
+    if (is_of_type(source, numpy_scalars().boolean)) {
       value = PyObject_IsTrue(source.ptr());
       return true;
     }
+    if (PyIndex_Check(source.ptr()) == 0) return false;
     const object whole = reinterpret_steal<object>(PyNumber_Index(source.ptr()));
     int overflow = 0;
     const long number = whole ? PyLong_AsLongAndOverflow(whole.ptr(), &overflow) : 0;

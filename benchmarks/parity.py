@@ -1,0 +1,224 @@
+"""Stores what a fixed call of every public family gives, to the last bit, or compares with it.
+
+A change made for speed does not move a number: write a file before it and compare after it, on the
+same machine.
+
+    python benchmarks/parity.py --write before.json
+    python benchmarks/parity.py --compare before.json
+"""
+
+import argparse
+import json
+import math
+import sys
+from pathlib import Path
+
+import gravelox as gx
+import numpy as np
+
+# Calls that need not agree to the bit: the name, with a relative tolerance and the reason.
+TOLERANCES: dict = {}
+
+ELLIPSOID = gx.Ellipsoid(60, 40, 25, 30, 20, 10)
+GRID = gx.CartesianGrid((100, 80, 60), (7, 6, 5), (10, 20, 30), (70, 15, 5))
+BLOCKS = gx.BlockModel(GRID, [i % 3 == 0 for i in range(len(GRID))])
+SAMPLES, HOLES = gx.create_random_drillholes((0, 0, 0), (100, 100, 50), 12, 0.3, 0.9, 40, seed=7)
+VALUES = [math.sin(0.05 * x) + 0.01 * y * z for x, y, z in SAMPLES]
+TARGETS = gx.CartesianGrid((100, 100, 50), (9, 8, 6)).locations()
+NEIGHBORHOOD = gx.Neighborhood(SAMPLES, ELLIPSOID)
+LAGS = ELLIPSOID.surface(20, 5) + ELLIPSOID.volume(5, 3, 6) + [(0, 0, 0)]
+MODEL = [
+    gx.Covariance.nugget(1e-5),
+    gx.Covariance.spherical(4e-5, ELLIPSOID),
+    gx.Covariance.exponential(3e-5, ELLIPSOID),
+    gx.Covariance.gaussian(2e-5, gx.Ellipsoid(90, 50, 30, 110, -10, 40)),
+]
+UNIT_MODEL = [gx.Covariance.nugget(0.1), gx.Covariance.spherical(0.9, ELLIPSOID)]
+
+# How many neighbours, and which; the estimators share these.
+SELECTIONS = {
+    "count": {"max_neighbors": 16},
+    "radius": {"max_radius": 0.6, "max_neighbors": -1},
+    "octants": {"max_neighbors": 24, "max_neighbors_octant": 3},
+    "holes": {"max_neighbors": 24, "dhids": HOLES, "max_neis_by_dhid": 2},
+}
+
+
+def samplers():
+    yield "generate_random_semisphere", gx.generate_random_semisphere(20, 3)
+    yield "generate_random_sphere", gx.generate_random_sphere(20, 3)
+    yield "Direction", [gx.Direction(azimuth, 25) for azimuth in range(0, 360, 50)]
+    yield "Rotation", gx.Rotation(200, -35, 50)
+
+
+def ellipsoids():
+    turned = ELLIPSOID.matrix() @ gx.Rotation(10, 20, 30).matrix()
+    yield "Ellipsoid", ELLIPSOID
+    yield "Ellipsoid.from_matrix", gx.Ellipsoid(turned)
+    yield "Ellipsoid.info", ELLIPSOID.info()
+    yield "Ellipsoid.forward", ELLIPSOID.forward(SAMPLES)
+    yield "Ellipsoid.backward", ELLIPSOID.backward(SAMPLES)
+    yield "Ellipsoid.surface", ELLIPSOID.surface(20, 5)
+    yield "Ellipsoid.volume", ELLIPSOID.volume(10, 4, 5)
+    yield "Ellipsoid.directions", ELLIPSOID.directions(10, 4, 5)
+    yield "Ellipsoid.axes", [ELLIPSOID.major_axis(), ELLIPSOID.mid_axis(), ELLIPSOID.minor_axis()]
+    yield "extract_ellipsoid_info", gx.extract_ellipsoid_info(turned)
+    yield "sort_matrix3d", [gx.sort_matrix3d(turned, flag) for flag in (True, False)]
+    yield "orthogonolize_axes", [gx.orthogonolize_axes(turned, flag) for flag in (True, False)]
+
+
+def neighborhoods():
+    growing = gx.DynamicNeighborhood(SAMPLES[:100], ELLIPSOID)
+    for location in SAMPLES[100:140]:
+        growing.add_point(location)
+    growing.add_points(SAMPLES[140:])
+    for id in range(0, 200, 7):
+        growing.remove_point(id)
+    hoods = {
+        "Neighborhood": NEIGHBORHOOD,
+        "Neighborhood.plain": gx.Neighborhood(SAMPLES),
+        "Neighborhood.grid": gx.Neighborhood(TARGETS),  # many points at equal distances
+        "DynamicNeighborhood": growing,
+    }
+    for name, hood in hoods.items():
+        yield f"{name}.nearest", [hood.find_neighbors(target, 12) for target in TARGETS]
+        yield f"{name}.within", [hood.find_neighbors(target, 0.4) for target in TARGETS]
+        yield f"{name}.first", [hood.nearest_neighbor(target) for target in TARGETS]
+
+
+def grids():
+    yield "CartesianGrid.locations", GRID.locations()
+    yield "CartesianGrid.cell_size", GRID.cell_size()
+    yield "CartesianGrid.corners", GRID.corners()
+    yield "CartesianGrid.transformation", GRID.transformation()
+    yield "CartesianGrid.counts", gx.CartesianGrid((1.0, 2.0, 3.0), (0.1, 0.3, 0.7)).ijk(50)
+    yield "BlockModel.locations", BLOCKS.locations()
+    yield "BlockModel.ijk", [BLOCKS.ijk(i) for i in range(len(BLOCKS))]
+    box = gx.BoundingBox(SAMPLES)
+    yield "BoundingBox", [box.lower(), box.upper(), box.length(), box.corners()]
+    yield "create_random_drillholes", (SAMPLES, HOLES)
+    yield (
+        "create_random_drillholes.campaign",
+        gx.create_random_drillholes(
+            500, 300, 9, 0, 90, -80, -50, 50, 120, 10, 40, 4, 12, ELLIPSOID, 11
+        ),
+    )
+
+
+def covariances():
+    for cov in MODEL:
+        yield f"Covariance.{cov.type()}", [cov(lag) for lag in LAGS]
+    for kernel in ("spherical", "gaussian", "exponential"):
+        values = [getattr(gx.Kernel, kernel)(h / 16) for h in range(40)]
+        yield f"Kernel.{kernel}", values
+    computer = gx.covariance_computer(MODEL)
+    yield "covariance_computer", [computer(lag) for lag in LAGS]
+    yield (
+        "generate_covariances",
+        gx.generate_covariances(
+            ELLIPSOID, 2, gx.Kernel.exponential, 4, 13, 20.0, 0.2, 1.5, 0.1, 0.9
+        ),
+    )
+
+
+def estimations():
+    estimators = {
+        "IDW": gx.IDW,
+        "IDW.power": lambda **kwargs: gx.IDW(power_a=2.7, max_weight=0.5, **kwargs),
+        "IDW.covs": lambda **kwargs: gx.IDW(UNIT_MODEL, **kwargs),
+        "SimpleKriging": lambda **kwargs: gx.SimpleKriging(MODEL, 2.0, **kwargs),
+        "OrdinaryKriging": lambda **kwargs: gx.OrdinaryKriging(MODEL, **kwargs),
+    }
+    targets = TARGETS + SAMPLES[:10]
+    for selection, kwargs in SELECTIONS.items():
+        for name, estimator in estimators.items():
+            estimates = estimator(**kwargs)(targets, NEIGHBORHOOD, SAMPLES, VALUES)
+            yield f"{name}.{selection}", estimates
+        yield (
+            f"compute_simple_kriging.{selection}",
+            gx.compute_simple_kriging(
+                targets, SAMPLES, VALUES, MODEL, 2.0, NEIGHBORHOOD, n_threads=1, **kwargs
+            ),
+        )
+        yield (
+            f"compute_ordinary_kriging.{selection}",
+            gx.compute_ordinary_kriging(targets, SAMPLES, VALUES, MODEL, NEIGHBORHOOD, **kwargs),
+        )
+        yield (
+            f"moving_window_estimation.{selection}",
+            gx.moving_window_estimation(targets, NEIGHBORHOOD, SAMPLES, VALUES, MODEL, **kwargs),
+        )
+
+
+FAMILIES = (samplers, ellipsoids, neighborhoods, grids, covariances, estimations)
+
+
+def to_text(value):
+    """Numbers as text that keeps every bit, in lists as deep as the value's own."""
+    if isinstance(value, (int, np.integer)):
+        return str(int(value))
+    if isinstance(value, (float, np.floating)):
+        return float(value).hex()
+    if isinstance(value, gx.EllipsoidInfo):
+        names = ("r1", "r2", "r3", "azimuth", "dip", "rake")
+        return [to_text(getattr(value, name)()) for name in names]
+    if isinstance(value, gx.Ellipsoid):
+        return [to_text(value.matrix()), to_text(value.inv_matrix())]
+    if isinstance(value, gx.Covariance):
+        return [value.type(), to_text(value.sill()), to_text(value.ellipsoid())]
+    if isinstance(value, (list, tuple, np.ndarray)):
+        return [to_text(element) for element in value]
+    raise TypeError(f"no text for {type(value)}")
+
+
+def results():
+    return {name: to_text(value) for family in FAMILIES for name, value in family()}
+
+
+def differences(before, after, tolerance, place=""):
+    """The places at which two texts differ."""
+    if isinstance(before, list) and isinstance(after, list) and len(before) == len(after):
+        for i, pair in enumerate(zip(before, after)):
+            yield from differences(*pair, tolerance, f"{place}[{i}]")
+    elif before != after and not (tolerance and are_close(before, after, tolerance)):
+        yield f"{place}: {before} before, {after} now"
+
+
+def are_close(before, after, tolerance):
+    if isinstance(before, list) or isinstance(after, list):
+        return False
+    return math.isclose(float.fromhex(before), float.fromhex(after), rel_tol=tolerance)
+
+
+def compare(before, after):
+    """Prints what differs; returns the exit code."""
+    failed = 0
+    for name in sorted(before.keys() | after.keys()):
+        if name not in before:
+            print(f"{name}: new, nothing to compare with")
+            continue
+        tolerance, _reason = TOLERANCES.get(name, (0.0, ""))
+        found = list(differences(before[name], after.get(name, []), tolerance))
+        if found:
+            failed += 1
+            print(f"{name}: {len(found)} differ, the first is {found[0]}")
+    print(f"{len(before) - failed} of {len(before)} calls are the same")
+    return 1 if failed else 0
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
+    mode = parser.add_mutually_exclusive_group(required=True)
+    mode.add_argument("--write", metavar="FILE", type=Path)
+    mode.add_argument("--compare", metavar="FILE", type=Path)
+    arguments = parser.parse_args()
+    if arguments.write:
+        stored = results()
+        arguments.write.write_text(json.dumps(stored, indent=1))
+        print(f"{len(stored)} calls written")
+        return 0
+    return compare(json.loads(arguments.compare.read_text()), results())
+
+
+if __name__ == "__main__":
+    sys.exit(main())
