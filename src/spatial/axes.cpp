@@ -45,10 +45,9 @@ bool third_points_away(const axis& v3, const axis& v2) {
 }  // namespace
 
 Eigen::Matrix3d orthogonolize_axes(const Eigen::Matrix3d& T, bool sort) {
-  const axis u1 = T.row(0);
+  const axis v1 = T.row(0);
   const axis u2 = T.row(1);
   const axis u3 = T.row(2);
-  const axis v1 = u1;
   const axis v2 = u2 - (u2.dot(v1) / v1.dot(v1)) * v1;
   const axis v3 = u3 - (u3.dot(v2) / v2.dot(v2)) * v2 - (u3.dot(v1) / v1.dot(v1)) * v1;
 

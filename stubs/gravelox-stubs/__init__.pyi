@@ -680,7 +680,8 @@ class DynamicNeighborhood:
         """
         The locations within a radius, chosen when the second argument is a float.
 
-        The error factor of this search is 1 + `max_radius` squared.
+        The error factor of this search is 1 + `max_radius` squared: the larger the radius, the more points
+        beyond a split it misses. Use it with an ellipsoid and radii near 1.
 
         Parameters
         ----------
