@@ -62,25 +62,27 @@ std::vector<double> idw_estimation(const location_list& target_locs, const locat
   const nei_getter getter = create_nei_getter(data_locs, neighborhood, max_neighbors, max_radius,
                                               max_neighbors_octant, dhids, max_neis_by_dhid);
   std::vector<double> estimates(target_locs.size(), not_a_number);
-  struct no_scratch {};
+  using distance_list = std::vector<double>;
   const auto estimate = [&](std::size_t index, const location& target,
-                            const std::vector<std::size_t>& neis, no_scratch& /*scratch*/) {
+                            const std::vector<std::size_t>& neis, distance_list& distances) {
     if (neis.size() == 1) {
       estimates[index] = data[neis.front()];
       return;
     }
+    // All distances first: the samples lie scattered in memory, and so they are fetched together.
+    distances.clear();
+    for (const std::size_t nei : neis) distances.push_back((data_locs[nei] - target).norm());
     blend mean(max_weight);
-    for (const std::size_t nei : neis) {
-      const double d = (data_locs[nei] - target).norm();
-      if (d < threshold) {
-        mean.add_close(data[nei]);
+    for (std::size_t i = 0; i < neis.size(); ++i) {
+      if (distances[i] < threshold) {
+        mean.add_close(data[neis[i]]);
       } else {
-        mean.add_far(1.0 / std::pow(d, power_a), data[nei]);
+        mean.add_far(1.0 / std::pow(distances[i], power_a), data[neis[i]]);
       }
     }
     estimates[index] = mean.value();
   };
-  detail::for_each_target<no_scratch>(target_locs, getter, n_threads, estimate);
+  detail::for_each_target<distance_list>(target_locs, getter, n_threads, estimate);
   return estimates;
 }
 

@@ -5,6 +5,7 @@
 // library appears nowhere else.
 
 #include <cstddef>
+#include <limits>
 #include <nanoflann.hpp>
 #include <utility>
 #include <vector>
@@ -33,6 +34,17 @@ inline auto search_parameters(float eps) {
 #else
   return nanoflann::SearchParams(0, eps);
 #endif
+}
+
+/// The tree's list of points in the order of its leaves; its name varies with the library's
+/// version.
+template <typename Tree>
+auto& leaf_order(Tree& tree) {
+  if constexpr (requires { tree.vAcc_; }) {
+    return tree.vAcc_;
+  } else {
+    return tree.vAcc;
+  }
 }
 
 /// The points as the trees read them, already in the ellipsoid's space.
@@ -75,16 +87,53 @@ class radius_result_set {
   std::vector<std::pair<std::size_t, double>>& found_;
 };
 
-/// The k nearest of k slots that start at id 0; what no point fills stays 0.
+/// What a count search collects: the nearest so far, in order; of points at equal distance the one
+/// met first comes first.
+class nearest_result_set {
+ public:
+  using DistanceType = double;
+  using IndexType = std::size_t;
+
+  /// For k of at least 1; both arrays have k places, and keep what they have where none is found.
+  nearest_result_set(std::size_t k, std::size_t* ids, double* squared_distances)
+      : k_(k), ids_(ids), squared_distances_(squared_distances) {
+    squared_distances_[k - 1] = std::numeric_limits<double>::max();
+  }
+
+  std::size_t size() const { return size_; }
+  bool full() const { return size_ == k_; }
+  double worstDist() const { return squared_distances_[k_ - 1]; }
+
+  bool addPoint(double squared_distance, std::size_t id) {
+    if (full() && worstDist() <= squared_distance) return true;
+    std::size_t place = full() ? k_ - 1 : size_++;
+    for (; place > 0 && squared_distances_[place - 1] > squared_distance; --place) {
+      squared_distances_[place] = squared_distances_[place - 1];
+      ids_[place] = ids_[place - 1];
+    }
+    squared_distances_[place] = squared_distance;
+    ids_[place] = id;
+    return true;
+  }
+
+ private:
+  std::size_t k_;
+  std::size_t size_ = 0;
+  std::size_t* ids_;
+  double* squared_distances_;
+};
+
+/// The k nearest into k slots of ids; what no point fills stays 0. Returns the number of points
+/// found.
 template <typename Tree>
-void search_by_count(const Tree& tree, const location& center, std::size_t k,
-                     neighbor_buffer& buffer) {
+std::size_t search_by_count(const Tree& tree, const location& center, std::size_t k,
+                            neighbor_buffer& buffer) {
   buffer.ids.assign(k, 0);
   buffer.squared_distances.assign(k, 0.0);
-  if (k == 0) return;
-  nanoflann::KNNResultSet<double, std::size_t> nearest(k);
-  nearest.init(buffer.ids.data(), buffer.squared_distances.data());
+  if (k == 0) return 0;
+  nearest_result_set nearest(k, buffer.ids.data(), buffer.squared_distances.data());
   tree.findNeighbors(nearest, center.data(), search_parameters(search_eps));
+  return nearest.size();
 }
 
 /// The points strictly within the radius into `buffer.found`, in the order of the traversal.

@@ -2,6 +2,10 @@
 #include "spatial/neighborhood.hpp"
 
 #include <algorithm>
+#include <cstdint>
+#include <limits>
+#include <numeric>
+#include <string>
 #include <utility>
 
 #include "common/checks.hpp"
@@ -13,18 +17,52 @@ namespace gravelox {
 namespace {
 
 using point_cloud = detail::PointCloud<double>;
-using tree_metric = nanoflann::L2_Simple_Adaptor<double, point_cloud, double, std::size_t>;
-using tree_type = nanoflann::KDTreeSingleIndexAdaptor<tree_metric, point_cloud, 3, std::size_t>;
+/// Half as wide as a size: a query is faster the less memory it touches.
+using place = std::uint32_t;
+using tree_metric = nanoflann::L2_Simple_Adaptor<double, point_cloud, double, place>;
+using tree_type = nanoflann::KDTreeSingleIndexAdaptor<tree_metric, point_cloud, 3, place>;
+
+location_list with_places(location_list locations) {
+  if (locations.size() > std::numeric_limits<place>::max()) {
+    refuse("locations", "fewer than 2^32", std::to_string(locations.size()));
+  }
+  return locations;
+}
 
 }  // namespace
 
 /// The tree refers to its points: they live and die together, at one address.
-struct Neighborhood::index {
+///
+/// Once it is built the points are put in the order of its leaves, so that a query reads memory in
+/// sequence; the tree then counts places in that order, and ids_ has the id of each.
+class Neighborhood::index {
+ public:
   explicit index(location_list locations)
-      : cloud{std::move(locations)}, tree(3, cloud, detail::tree_parameters()) {}
+      : cloud_{with_places(std::move(locations))}, tree_(3, cloud_, detail::tree_parameters()) {
+    ids_ = detail::leaf_order(tree_);
+    location_list sorted(ids_.size());
+    for (std::size_t i = 0; i < ids_.size(); ++i) sorted[i] = cloud_.points[ids_[i]];
+    cloud_.points = std::move(sorted);
+    auto& places = detail::leaf_order(tree_);
+    std::iota(places.begin(), places.end(), place{0});
+  }
 
-  point_cloud cloud;
-  tree_type tree;
+  void search_by_count(const location& center, std::size_t k, neighbor_buffer& buffer) const {
+    const std::size_t n_found = detail::search_by_count(tree_, center, k, buffer);
+    for (std::size_t i = 0; i < n_found; ++i) buffer.ids[i] = ids_[buffer.ids[i]];
+  }
+
+  void search_by_radius(const location& center, double max_radius, neighbor_buffer& buffer) const {
+    detail::search_by_radius(tree_, center, max_radius, detail::search_eps, buffer);
+    for (auto& [id, squared_distance] : buffer.found) id = ids_[id];
+  }
+
+  std::size_t size() const { return ids_.size(); }
+
+ private:
+  point_cloud cloud_;
+  tree_type tree_;
+  std::vector<place> ids_;
 };
 
 Neighborhood::Neighborhood(const location_list& locations, const Ellipsoid& ellipsoid)
@@ -47,13 +85,12 @@ location Neighborhood::to_search_space(const location& point) const {
 void Neighborhood::find_neighbors(const location& center, int max_size,
                                   neighbor_buffer& buffer) const {
   const std::size_t k = std::min(to_size(std::max(max_size, 0)), size());
-  detail::search_by_count(index_->tree, to_search_space(center), k, buffer);
+  index_->search_by_count(to_search_space(center), k, buffer);
 }
 
 void Neighborhood::find_neighbors(const location& center, double max_radius,
                                   neighbor_buffer& buffer) const {
-  detail::search_by_radius(index_->tree, to_search_space(center), max_radius, detail::search_eps,
-                           buffer);
+  index_->search_by_radius(to_search_space(center), max_radius, buffer);
   std::sort(buffer.found.begin(), buffer.found.end(), nanoflann::IndexDist_Sorter());
   detail::store_found_ids(buffer);
 }
@@ -79,6 +116,6 @@ std::size_t Neighborhood::nearest_neighbor(const location& point) const {
   return find_neighbors(point, 1).front();
 }
 
-std::size_t Neighborhood::size() const { return index_->cloud.points.size(); }
+std::size_t Neighborhood::size() const { return index_->size(); }
 
 }  // namespace gravelox

@@ -49,7 +49,7 @@ class Neighborhood {
   std::size_t size() const;
 
  private:
-  struct index;
+  class index;
 
   location to_search_space(const location& point) const;
 

@@ -4,16 +4,12 @@
 #include <cmath>
 
 #include "common/integer.hpp"
+#include "common/vector_clones.hpp"
 #include "variography/kernel_table.hpp"
 
 namespace gravelox {
 
 namespace {
-
-/// Lags are evaluated in whole batches: the places behind the last lag hold zeros.
-std::size_t padded(std::size_t n) {
-  return (n + Kernel::batch - 1) / Kernel::batch * Kernel::batch;
-}
 
 void grow(Eigen::ArrayXd& array, std::size_t n) {
   if (array.size() < to_index(n)) array.resize(to_index(n));
@@ -28,9 +24,10 @@ void map_axis(const Eigen::RowVector3d& row, const double* x, const double* y, c
   for (std::size_t i = 0; i < n; ++i) result[i] = a * x[i] + b * y[i] + c * z[i];
 }
 
-/// Squared distances of the points from (px, py, pz).
-void square_distances(const double* x, const double* y, const double* z, double px, double py,
-                      double pz, std::size_t n, double* result) {
+/// Squared distances of n points from (px, py, pz).
+GRAVELOX_VECTOR_CLONES void square_distances(const double* x, const double* y, const double* z,
+                                             double px, double py, double pz, std::size_t n,
+                                             double* result) {
   for (std::size_t i = 0; i < n; ++i) {
     const double dx = x[i] - px;
     const double dy = y[i] - py;
@@ -39,7 +36,23 @@ void square_distances(const double* x, const double* y, const double* z, double 
   }
 }
 
-void take_roots(const double* squares, std::size_t n, double* roots) {
+/// Squared distances between the points i > j, column by column. One function for all columns: most
+/// are short.
+GRAVELOX_VECTOR_CLONES void square_distances_between(const double* x, const double* y,
+                                                     const double* z, std::size_t n,
+                                                     double* result) {
+  for (std::size_t j = 0; j < n; ++j) {
+    for (std::size_t i = j + 1; i < n; ++i) {
+      const double dx = x[i] - x[j];
+      const double dy = y[i] - y[j];
+      const double dz = z[i] - z[j];
+      result[i - j - 1] = dx * dx + dy * dy + dz * dz;
+    }
+    result += n - j - 1;
+  }
+}
+
+GRAVELOX_VECTOR_CLONES void take_roots(const double* squares, std::size_t n, double* roots) {
   for (std::size_t i = 0; i < n; ++i) roots[i] = std::sqrt(squares[i]);
 }
 
@@ -89,19 +102,17 @@ const double* cov_computer::to_target_and_between(lag_buffer& lags) const {
 const double* cov_computer::evaluate(lag_buffer& lags, bool between) const {
   const std::size_t n = lags.size();
   const std::size_t n_lags = between ? n * (n + 1) / 2 : n;
-  const std::size_t n_padded = padded(n_lags);
   for (lag_buffer::array* values : {&lags.squares_, &lags.distances_, &lags.values_}) {
-    grow(*values, n_padded);
+    grow(*values, n_lags);
   }
-  lags.values_.head(to_index(n_padded)).setZero();
-  lags.squares_.segment(to_index(n_lags), to_index(n_padded - n_lags)).setZero();
+  lags.values_.head(to_index(n_lags)).setZero();
   for (const group& same : groups_) {
     square_lags(same.matrix, between, lags);
-    if (same.needs_distances) take_roots(lags.squares_.data(), n_padded, lags.distances_.data());
+    if (same.needs_distances) take_roots(lags.squares_.data(), n_lags, lags.distances_.data());
     for (const structure& s : same.structures) {
       const lag_buffer::array& argument =
           s.kernel.takes_squares() ? lags.squares_ : lags.distances_;
-      s.kernel.add_to(argument.data(), n_padded, s.sill, lags.values_.data());
+      s.kernel.add_to(argument.data(), n_lags, s.sill, lags.values_.data());
     }
   }
   return lags.values_.data();
@@ -126,13 +137,7 @@ void cov_computer::square_lags(const Eigen::Matrix3d& matrix, bool between, lag_
   const double* z = lags.mapped_z_.data();
   double* squares = lags.squares_.data();
   square_distances(x, y, z, target_x, target_y, target_z, n, squares);
-  if (!between) return;
-  double* column = squares + n;
-  for (std::size_t j = 0; j + 1 < n; ++j) {
-    const std::size_t below = n - 1 - j;
-    square_distances(x + j + 1, y + j + 1, z + j + 1, x[j], y[j], z[j], below, column);
-    column += below;
-  }
+  if (between) square_distances_between(x, y, z, n, squares + n);
 }
 
 cov_computer create_cov_computer(const std::vector<Covariance>& covs, int n) {

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "variography/kernel.hpp"
 
-#include <Eigen/Core>
 #include <array>
+#include <bit>
 #include <cmath>
+#include <cstdint>
+#include <numbers>
 #include <utility>
 
-#include "common/integer.hpp"
+#include "common/vector_clones.hpp"
 
 namespace gravelox {
 
@@ -44,22 +46,45 @@ T idw(const T& h) {
   return h < T(1e-6) ? T(1e6) : T(1.0) / (h * h);
 }
 
-// The batch forms. Where the compiler vectorises the scalar formula, that formula serves.
+// The batch forms. They vectorise, and a value does not depend on its place in the array: the
+// vector form of an operation rounds as the scalar one does.
 
 template <double (*value)(const double&)>
-void add_scalar(const double* h, std::size_t n, double sill, double* sums) {
+GRAVELOX_VECTOR_CLONES void add_scalar(const double* h, std::size_t n, double sill, double* sums) {
   for (std::size_t i = 0; i < n; ++i) sums[i] += sill * value(h[i]);
 }
 
-/// exp(-3 x), by the matrix library's vectorised exponential.
-void add_exp(const double* x, std::size_t n, double sill, double* sums) {
-  using array = Eigen::Array<double, Eigen::Dynamic, 1>;
-  const Eigen::Map<const array, Eigen::Aligned16> exponents(x, to_index(n));
-  Eigen::Map<array, Eigen::Aligned16>(sums, to_index(n)) += sill * (-3.0 * exponents).exp();
+/// exp(x) for x of at most 0, within 1.2 ulp; 0 below -708. The library's own does not vectorise.
+///
+/// x = k log(2) + r with a whole k and |r| of at most log(2) / 2. exp(r) is Taylor's series, whose
+/// remainder after r^13 lies below 2^-57; 2^k is put together from its bits.
+inline double exp_of_negative(double x) {
+  constexpr double shift = 0x1.8p52;  // the last bits of a sum with it are the sum's whole part
+  constexpr double log2_high = 0x1.62e42fefa0000p-1;  // so short that its product with k is exact
+  constexpr double log2_low = 0x1.cf79abc9e3b39p-40;
+  constexpr std::array<double, 12> inverse_factorials{
+      1.0 / 479001600, 1.0 / 39916800, 1.0 / 3628800, 1.0 / 362880, 1.0 / 40320, 1.0 / 5040,
+      1.0 / 720,       1.0 / 120,      1.0 / 24,      1.0 / 6,      1.0 / 2,     1.0};
+
+  const double shifted = x * std::numbers::log2e + shift;
+  const double k = shifted - shift;
+  const double r = (x - k * log2_high) - k * log2_low;
+  double series = 1.0 / 6227020800;
+  for (const double coefficient : inverse_factorials) series = series * r + coefficient;
+  series = series * r + 1.0;
+  const std::uint64_t power = (std::bit_cast<std::uint64_t>(shifted) + 1023U) << 52U;
+  const double result = series * std::bit_cast<double>(power);
+  return x < -708.0 ? 0.0 : result;
+}
+
+/// exp(-3 x)
+GRAVELOX_VECTOR_CLONES void add_exp(const double* x, std::size_t n, double sill, double* sums) {
+  for (std::size_t i = 0; i < n; ++i) sums[i] += sill * exp_of_negative(-3.0 * x[i]);
 }
 
 /// The square root of a double lies below 1e-8 exactly where the double lies below 1e-16.
-void add_nugget_of_squares(const double* h2, std::size_t n, double sill, double* sums) {
+GRAVELOX_VECTOR_CLONES void add_nugget_of_squares(const double* h2, std::size_t n, double sill,
+                                                  double* sums) {
   for (std::size_t i = 0; i < n; ++i) sums[i] += h2[i] < 1e-16 ? sill : 0.0;
 }
 

@@ -54,11 +54,8 @@ class Kernel {
   bool takes_squares() const;
 
   /// Adds sill times the value at each of n distances (squares of them if takes_squares) to `sums`.
-  /// Both arrays are aligned to 16 bytes, and n is a multiple of `batch`, so that a value does not
-  /// depend on its place in the array. Values may differ from operator() in the last places.
+  /// Values may differ from operator() in the last places.
   void add_to(const double* distances, std::size_t n, double sill, double* sums) const;
-
-  static constexpr std::size_t batch = 8;
 
  private:
   const kernel_shape* shape_;
