@@ -50,6 +50,8 @@ const std::vector<std::size_t>& nei_getter::operator()(const location& target,
   } else {
     neighborhood_.find_neighbors(target, max_radius_, buffer.neighbors);
   }
+  // Fewer than asked for are found only where squared distances overflow.
+  buffer.neighbors.ids.resize(buffer.neighbors.n_found);
   if (max_neighbors_octant_ > 0) limit_octants(target, buffer.neighbors.ids);
   if (!holes_.empty()) limit_holes(buffer);
   return buffer.neighbors.ids;

@@ -64,7 +64,8 @@ A spherical structure: sill (1 - 1.5 h + 0.5 h^3) up to the range, and 0 beyond.
 Parameters
 ----------
 sill : float
-    Variance of the structure, in data units squared.
+    Variance of the structure, in data units squared; for ordinary kriging scaled down, see
+    `OrdinaryKriging`.
 ellipsoid : Ellipsoid
     Its ranges and axes.
 
@@ -80,7 +81,8 @@ A gaussian structure: sill exp(-3 h^2), h being the distance divided by the rang
 Parameters
 ----------
 sill : float
-    Variance of the structure, in data units squared.
+    Variance of the structure, in data units squared; for ordinary kriging scaled down, see
+    `OrdinaryKriging`.
 ellipsoid : Ellipsoid
     Its practical ranges and axes.
 
@@ -96,7 +98,8 @@ An exponential structure: sill exp(-3 h), h being the distance divided by the ra
 Parameters
 ----------
 sill : float
-    Variance of the structure, in data units squared.
+    Variance of the structure, in data units squared; for ordinary kriging scaled down, see
+    `OrdinaryKriging`.
 ellipsoid : Ellipsoid
     Its practical ranges and axes.
 
@@ -112,7 +115,8 @@ A nugget: its sill for lags shorter than 1e-8 length units, and 0 beyond.
 Parameters
 ----------
 sill : float
-    Variance of the nugget, in data units squared.
+    Variance of the nugget, in data units squared; for ordinary kriging scaled down, see
+    `OrdinaryKriging`.
 
 Returns
 -------
@@ -144,7 +148,7 @@ The sill of the structure.
 Returns
 -------
 float
-    Variance, in data units squared.
+    Variance, in the units that the structure was made with.
 )";
 
 constexpr const char* covariance_call = R"(

@@ -152,7 +152,8 @@ Ordinary kriging: the mean is unknown.
 The estimate is the weighted sum of the samples plus the Lagrange multiplier of the system. The
 multiplier has the unit of the covariance and grows with the sills; with sills in data units
 squared the estimates are plainly wrong. The weights do not depend on the scale of the sills, so
-scale them: let them add up to about 1e-4 of the data's standard deviation.
+scale them: let them add up to about 1e-4 of the data's standard deviation, and divide the variances
+by the same factor to have them in data units squared.
 
 Parameters
 ----------
@@ -249,7 +250,8 @@ Estimates and variances of ordinary kriging, in parallel.
 The estimate is the weighted sum of the samples plus the Lagrange multiplier of the system. The
 multiplier has the unit of the covariance and grows with the sills; with sills in data units
 squared the estimates are plainly wrong. The weights do not depend on the scale of the sills, so
-scale them: let them add up to about 1e-4 of the data's standard deviation.
+scale them: let them add up to about 1e-4 of the data's standard deviation, and divide the variances
+by the same factor to have them in data units squared.
 
 Each target has a system of its own over its neighbours. The interpreter lock is released.
 

@@ -23,6 +23,9 @@ Examples
 constexpr const char* grid_from_counts = R"(
 A grid from its lengths and numbers of cells.
 
+Three whole numbers in second place are counts, also where sizes are meant: for those give the
+argument its name, `cell_size=(10, 10, 5)`.
+
 Parameters
 ----------
 length : array_like of shape (3,)
@@ -41,12 +44,12 @@ ValueError
 )";
 
 constexpr const char* grid_from_cell_size = R"(
-A grid from its lengths and cell sizes.
+A grid from its lengths and cell sizes; name `cell_size` where the sizes are whole numbers.
 
 Parameters
 ----------
 length : array_like of shape (3,)
-    Lengths along i, j, k, in length units.
+    Lengths along i, j, k, in length units. One that is not above 1e-30 counts as 1.
 cell_size : array_like of shape (3,)
     Sizes of a cell along i, j, k. The counts are the whole parts of length / cell_size, as
     doubles have it: 0.3 / 0.1 gives 2 cells.

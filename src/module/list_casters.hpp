@@ -61,8 +61,11 @@ inline bool read_location(const PyArray_Proxy& array, gravelox::location& result
 
 /// Calls load_element(element) for each element of a sequence that is not text, as long as it
 /// returns true; begin(n) is told first how many to make room for, and no more than is cheap: an
-/// object may claim any length. The length is asked for again at each step, since a conversion may
-/// run Python code that changes the list.
+/// object may claim any length.
+///
+/// Elements are iterated over, not looked up: to a column of a table an index is a label. Lists are
+/// read directly, and their length is asked for again at each step, since a conversion may run
+/// Python code that changes them.
 template <typename Begin, typename LoadElement>
 bool load_sequence(handle source, const Begin& begin, const LoadElement& load_element) {
   if (PySequence_Check(source.ptr()) == 0 || isinstance<bytes>(source) || isinstance<str>(source)) {
@@ -75,19 +78,19 @@ bool load_sequence(handle source, const Begin& begin, const LoadElement& load_el
   }
   constexpr ssize_t most_room = 1 << 20;
   begin(static_cast<std::size_t>(std::min(size, most_room)));
-  const bool is_list = PyList_CheckExact(source.ptr()) != 0;
-  for (ssize_t i = 0; i < size; ++i) {
-    object element;
-    if (is_list) {
+  if (PyList_CheckExact(source.ptr()) != 0) {
+    for (ssize_t i = 0; i < size; ++i) {
       if (i >= PyList_GET_SIZE(source.ptr())) return false;
-      element = reinterpret_borrow<object>(PyList_GET_ITEM(source.ptr(), i));
-    } else {
-      element = reinterpret_steal<object>(PySequence_GetItem(source.ptr(), i));
-      if (!element) throw error_already_set();
+      if (!load_element(reinterpret_borrow<object>(PyList_GET_ITEM(source.ptr(), i)))) return false;
     }
-    if (!load_element(element)) return false;
+    return true;
   }
-  return true;
+  ssize_t n_loaded = 0;
+  for (const handle element : iter(source)) {
+    if (n_loaded == size || !load_element(element)) return false;
+    ++n_loaded;
+  }
+  return n_loaded == size;
 }
 
 /// The point list of the whole system. A (n, 3) array is a list of points, (3, 3) and (1, 3)
@@ -100,9 +103,9 @@ class type_caster<std::vector<gravelox::location>> {
 
   bool load(handle source, bool convert) {
     if (const PyArray_Proxy* table = array_of<double>(source, 2)) return load_table(*table);
-    if (convert && is_table(source)) {
+    if (convert && may_be_table(source)) {
       const auto doubles = array_t<double>::ensure(source);
-      return doubles && load_table(*array_proxy(doubles.ptr()));
+      if (doubles && doubles.ndim() == 2) return load_table(*array_proxy(doubles.ptr()));
     }
     return load_sequence(
         source,
@@ -136,8 +139,10 @@ class type_caster<std::vector<gravelox::location>> {
   }
 
  private:
-  static bool is_table(handle source) {
-    return npy_api::get().PyArray_Check_(source.ptr()) && array_proxy(source.ptr())->nd == 2;
+  /// Arrays of other types, and tables of other packages that turn into arrays.
+  static bool may_be_table(handle source) {
+    const bool is_plain = PyList_Check(source.ptr()) != 0 || PyTuple_Check(source.ptr()) != 0;
+    return !is_plain && PyObject_HasAttrString(source.ptr(), "__array__") != 0;
   }
 
   bool load_table(const PyArray_Proxy& table) {

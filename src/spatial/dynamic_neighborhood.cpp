@@ -48,7 +48,13 @@ struct DynamicNeighborhood::index {
   void add(const location_list& points) {
     const std::size_t first = cloud.points.size();
     cloud.points.insert(cloud.points.end(), points.begin(), points.end());
-    tree.addPoints(first, cloud.points.size());
+    try {
+      tree.addPoints(first, cloud.points.size());
+    } catch (...) {
+      // Ids without a location are never found: what the trees have taken in does no harm.
+      cloud.points.resize(first);
+      throw;
+    }
   }
 
   growing_cloud cloud;
@@ -92,26 +98,26 @@ location_list DynamicNeighborhood::to_search_space(std::string_view name,
 
 std::vector<std::size_t> DynamicNeighborhood::find_neighbors(const location& center,
                                                              int max_size) const {
-  check_finite("center", to_search_space(center));
   check_at_least("max_size", max_size, 0);
   neighbor_buffer buffer;
-  detail::search_by_count(index_->tree, to_search_space(center),
+  detail::search_by_count(index_->tree, to_search_space("center", {center}).front(),
                           std::min(to_size(max_size), size()), buffer);
   return std::move(buffer.ids);
 }
 
 std::vector<std::size_t> DynamicNeighborhood::find_neighbors(const location& center,
                                                              double max_radius) const {
-  check_finite("center", to_search_space(center));
   neighbor_buffer buffer;
   const auto eps = static_cast<float>(max_radius * max_radius);
-  detail::search_by_radius(index_->tree, to_search_space(center), max_radius, eps, buffer);
+  detail::search_by_radius(index_->tree, to_search_space("center", {center}).front(), max_radius,
+                           eps, buffer);
   detail::store_found_ids(buffer);
   return std::move(buffer.ids);
 }
 
 std::size_t DynamicNeighborhood::nearest_neighbor(const location& point) const {
   check_not_empty("locations of the neighbourhood", size());
+  check_finite("point", point);
   return find_neighbors(point, 1).front();
 }
 

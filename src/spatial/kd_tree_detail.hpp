@@ -74,6 +74,8 @@ class radius_result_set {
   }
 
   std::size_t size() const { return found_.size(); }
+  bool empty() const { return found_.empty(); }
+  void sort() {}  // newer versions of the library ask for it; order is the caller's business
   bool full() const { return true; }
   double worstDist() const { return squared_radius_; }
 
@@ -101,6 +103,8 @@ class nearest_result_set {
   }
 
   std::size_t size() const { return size_; }
+  bool empty() const { return size_ == 0; }
+  void sort() {}
   bool full() const { return size_ == k_; }
   double worstDist() const { return squared_distances_[k_ - 1]; }
 
@@ -123,17 +127,17 @@ class nearest_result_set {
   double* squared_distances_;
 };
 
-/// The k nearest into k slots of ids; what no point fills stays 0. Returns the number of points
-/// found.
+/// The k nearest into k slots of ids; what no point fills stays 0.
 template <typename Tree>
-std::size_t search_by_count(const Tree& tree, const location& center, std::size_t k,
-                            neighbor_buffer& buffer) {
+void search_by_count(const Tree& tree, const location& center, std::size_t k,
+                     neighbor_buffer& buffer) {
   buffer.ids.assign(k, 0);
   buffer.squared_distances.assign(k, 0.0);
-  if (k == 0) return 0;
+  buffer.n_found = 0;
+  if (k == 0) return;
   nearest_result_set nearest(k, buffer.ids.data(), buffer.squared_distances.data());
   tree.findNeighbors(nearest, center.data(), search_parameters(search_eps));
-  return nearest.size();
+  buffer.n_found = nearest.size();
 }
 
 /// The points strictly within the radius into `buffer.found`, in the order of the traversal.
@@ -148,6 +152,7 @@ void search_by_radius(const Tree& tree, const location& center, double max_radiu
 inline void store_found_ids(neighbor_buffer& buffer) {
   buffer.ids.clear();
   for (const auto& [id, squared_distance] : buffer.found) buffer.ids.push_back(id);
+  buffer.n_found = buffer.ids.size();
 }
 
 }  // namespace gravelox::detail

@@ -48,8 +48,8 @@ class Neighborhood::index {
   }
 
   void search_by_count(const location& center, std::size_t k, neighbor_buffer& buffer) const {
-    const std::size_t n_found = detail::search_by_count(tree_, center, k, buffer);
-    for (std::size_t i = 0; i < n_found; ++i) buffer.ids[i] = ids_[buffer.ids[i]];
+    detail::search_by_count(tree_, center, k, buffer);
+    for (std::size_t i = 0; i < buffer.n_found; ++i) buffer.ids[i] = ids_[buffer.ids[i]];
   }
 
   void search_by_radius(const location& center, double max_radius, neighbor_buffer& buffer) const {
@@ -82,6 +82,11 @@ location Neighborhood::to_search_space(const location& point) const {
   return has_ellipsoid_ ? ellipsoid_.forward(point) : point;
 }
 
+void Neighborhood::check_center(const location& center) const {
+  check_finite("center", center);
+  check_finite("center under the ellipsoid", to_search_space(center));
+}
+
 void Neighborhood::find_neighbors(const location& center, int max_size,
                                   neighbor_buffer& buffer) const {
   const std::size_t k = std::min(to_size(std::max(max_size, 0)), size());
@@ -96,7 +101,7 @@ void Neighborhood::find_neighbors(const location& center, double max_radius,
 }
 
 std::vector<std::size_t> Neighborhood::find_neighbors(const location& center, int max_size) const {
-  check_finite("center", to_search_space(center));
+  check_center(center);
   check_at_least("max_size", max_size, 0);
   neighbor_buffer buffer;
   find_neighbors(center, max_size, buffer);
@@ -105,7 +110,7 @@ std::vector<std::size_t> Neighborhood::find_neighbors(const location& center, in
 
 std::vector<std::size_t> Neighborhood::find_neighbors(const location& center,
                                                       double max_radius) const {
-  check_finite("center", to_search_space(center));
+  check_center(center);
   neighbor_buffer buffer;
   find_neighbors(center, max_radius, buffer);
   return std::move(buffer.ids);

@@ -52,6 +52,7 @@ class Neighborhood {
   class index;
 
   location to_search_space(const location& point) const;
+  void check_center(const location& center) const;
 
   bool has_ellipsoid_;
   Ellipsoid ellipsoid_;

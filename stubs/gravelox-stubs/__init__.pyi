@@ -275,6 +275,9 @@ class CartesianGrid:
         """
         A grid from its lengths and numbers of cells.
 
+        Three whole numbers in second place are counts, also where sizes are meant: for those give the
+        argument its name, `cell_size=(10, 10, 5)`.
+
         Parameters
         ----------
         length : array_like of shape (3,)
@@ -294,12 +297,12 @@ class CartesianGrid:
     @typing.overload
     def __init__(self, length: numpy.typing.ArrayLike, cell_size: numpy.typing.ArrayLike, origin: numpy.typing.ArrayLike = (0, 0, 0), rotation: numpy.typing.ArrayLike = (90, 0, 0)) -> None:
         """
-        A grid from its lengths and cell sizes.
+        A grid from its lengths and cell sizes; name `cell_size` where the sizes are whole numbers.
 
         Parameters
         ----------
         length : array_like of shape (3,)
-            Lengths along i, j, k, in length units.
+            Lengths along i, j, k, in length units. One that is not above 1e-30 counts as 1.
         cell_size : array_like of shape (3,)
             Sizes of a cell along i, j, k. The counts are the whole parts of length / cell_size, as
             doubles have it: 0.3 / 0.1 gives 2 cells.
@@ -459,7 +462,8 @@ class Covariance:
         Parameters
         ----------
         sill : float
-            Variance of the structure, in data units squared.
+            Variance of the structure, in data units squared; for ordinary kriging scaled down, see
+            `OrdinaryKriging`.
         ellipsoid : Ellipsoid
             Its practical ranges and axes.
 
@@ -476,7 +480,8 @@ class Covariance:
         Parameters
         ----------
         sill : float
-            Variance of the structure, in data units squared.
+            Variance of the structure, in data units squared; for ordinary kriging scaled down, see
+            `OrdinaryKriging`.
         ellipsoid : Ellipsoid
             Its practical ranges and axes.
 
@@ -493,7 +498,8 @@ class Covariance:
         Parameters
         ----------
         sill : float
-            Variance of the nugget, in data units squared.
+            Variance of the nugget, in data units squared; for ordinary kriging scaled down, see
+            `OrdinaryKriging`.
 
         Returns
         -------
@@ -508,7 +514,8 @@ class Covariance:
         Parameters
         ----------
         sill : float
-            Variance of the structure, in data units squared.
+            Variance of the structure, in data units squared; for ordinary kriging scaled down, see
+            `OrdinaryKriging`.
         ellipsoid : Ellipsoid
             Its ranges and axes.
 
@@ -547,7 +554,7 @@ class Covariance:
         Returns
         -------
         float
-            Variance, in data units squared.
+            Variance, in the units that the structure was made with.
         """
     def type(self) -> str:
         """
@@ -1361,7 +1368,8 @@ def OrdinaryKriging(covs: list[Covariance], max_neighbors: int = -1, max_radius:
     The estimate is the weighted sum of the samples plus the Lagrange multiplier of the system. The
     multiplier has the unit of the covariance and grows with the sills; with sills in data units
     squared the estimates are plainly wrong. The weights do not depend on the scale of the sills, so
-    scale them: let them add up to about 1e-4 of the data's standard deviation.
+    scale them: let them add up to about 1e-4 of the data's standard deviation, and divide the variances
+    by the same factor to have them in data units squared.
 
     Parameters
     ----------
@@ -1471,7 +1479,8 @@ def compute_ordinary_kriging(target_locs: numpy.typing.ArrayLike, data_locs: num
     The estimate is the weighted sum of the samples plus the Lagrange multiplier of the system. The
     multiplier has the unit of the covariance and grows with the sills; with sills in data units
     squared the estimates are plainly wrong. The weights do not depend on the scale of the sills, so
-    scale them: let them add up to about 1e-4 of the data's standard deviation.
+    scale them: let them add up to about 1e-4 of the data's standard deviation, and divide the variances
+    by the same factor to have them in data units squared.
 
     Each target has a system of its own over its neighbours. The interpreter lock is released.
 
