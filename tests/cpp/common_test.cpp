@@ -6,62 +6,51 @@
 #include <atomic>
 #include <cmath>
 #include <cstddef>
-#include <functional>
-#include <limits>
+#include <cstdint>
+#include <numeric>
 #include <stdexcept>
 #include <string>
 #include <thread>
-#include <utility>
 #include <vector>
 
-#include "common/checks.hpp"
-#include "common/integer.hpp"
 #include "common/parallel_for.hpp"
-#include "common/power.hpp"
+#include "common/random.hpp"
 
 namespace gravelox {
 namespace {
 
 TEST(ParallelFor, GivesEachThreadOneBlock) {
   for (const int n_threads : {0, 1, 2, 3, -1}) {
-    const auto slots = static_cast<int>(n_thread_slots(n_threads));
-    std::vector<int> visits(1001, 0);
+    std::atomic<int> calls = 0;
     std::vector<int> thread_of(1001, -1);
     parallel_for(1001, n_threads, [&](std::size_t i, int thread) {
-      ++visits[i];
+      ++calls;
       thread_of[i] = thread;
     });
-    EXPECT_EQ(visits, std::vector<int>(1001, 1));
+    EXPECT_EQ(calls, 1001);
     EXPECT_TRUE(std::is_sorted(thread_of.begin(), thread_of.end()));
     EXPECT_EQ(thread_of.front(), 0);
-    EXPECT_EQ(thread_of.back(), slots - 1);
+    EXPECT_EQ(thread_of.back(), static_cast<int>(n_thread_slots(n_threads)) - 1);
   }
   parallel_for(0, 0, [](std::size_t, int) { ADD_FAILURE(); });
 }
 
-TEST(ParallelFor, OneThreadOrOneIndexOpensNoRegion) {
-  int calls = 0;
-  const auto body = [&](std::size_t, int thread) {
-    ++calls;
-    EXPECT_EQ(thread, 0);
-    EXPECT_EQ(omp_get_level(), 0);
-  };
-  parallel_for(100, 1, body);
-  parallel_for(1, 0, body);
-  EXPECT_EQ(calls, 101);
-}
-
-TEST(ParallelFor, ALoopInALoopStaysOnItsThread) {
-  std::vector<int> visits(2000, 0);
-  parallel_for(50, 2, [&](std::size_t i, int) {
+TEST(ParallelFor, OneThreadOneIndexAndALoopInALoopStayOnTheCaller) {
+  std::atomic<int> calls = 0;
+  const auto loop = [&calls](std::size_t n, int n_threads) {
+    const int level = omp_get_level();
     const auto caller = std::this_thread::get_id();
-    parallel_for(40, 2, [&](std::size_t j, int thread) {
+    parallel_for(n, n_threads, [&](std::size_t, int thread) {
+      ++calls;
       EXPECT_EQ(thread, 0);
+      EXPECT_EQ(omp_get_level(), level);
       EXPECT_EQ(std::this_thread::get_id(), caller);
-      ++visits[i * 40 + j];
     });
-  });
-  EXPECT_EQ(visits, std::vector<int>(2000, 1));
+  };
+  loop(100, 1);
+  loop(1, 0);
+  parallel_for(50, 2, [&](std::size_t, int) { loop(40, 2); });
+  EXPECT_EQ(calls, 2101);
 }
 
 TEST(ParallelFor, ThrowsTheExceptionOfTheLowestIndexAfterTheLoop) {
@@ -83,54 +72,53 @@ TEST(ParallelFor, ThrowsTheExceptionOfTheLowestIndexAfterTheLoop) {
   }
 }
 
-TEST(Checks, NameTheArgumentAndWhatIsWrong) {
-  const double nan = std::numeric_limits<double>::quiet_NaN();
-  const double infinity = std::numeric_limits<double>::infinity();
-  const std::vector<std::pair<std::function<void()>, std::string>> cases{
-      {[] { check_same_size("data", 118, 120, "location"); },
-       "120 values, one per location, got 118"},
-      {[] { check_not_empty("data", 0); }, "at least 1 value, got 0"},
-      {[] { check_positive("data", 0.0); }, "a positive number, got 0"},
-      {[=] { check_positive("data", nan); }, "a positive number, got nan"},
-      {[=] { check_positive("data", infinity); }, "a positive number, got inf"},
-      {[] { check_at_least("data", -1, 0); }, "at least 0, got -1"},
-      {[] { check_index("data", -1, 5); }, "an index from 0 to below 5, got -1"},
-      {[] { check_index("data", 5, 5); }, "an index from 0 to below 5, got 5"},
-      {[=] { check_finite("data", -infinity); }, "a finite number, got -inf"},
-      {[=] {
-         check_finite("data", std::vector{1.0, nan, nan});
-       },
-       "finite numbers, got nan at position 1"},
-      {[=] { check_finite("data", location(1, nan, 2)); }, "finite coordinates, got (1, nan, 2)"},
-      {[=] {
-         check_finite("data", location_list{{1, 2, 3}, {1, 2, infinity}});
-       },
-       "finite coordinates, got (1, 2, inf) at position 1"},
-  };
-  for (const auto& [check, message] : cases) {
-    try {
-      check();
-      ADD_FAILURE() << "passed: " << message;
-    } catch (const std::invalid_argument& error) {
-      EXPECT_EQ(error.what(), "data: expected " + message);
-    }
+// The pinned values come from the same draws in plain Python, over the words of numpy's Mersenne
+// Twister. Seeds, uniforms and normals are compared in tests/python/test_random.py.
+class RandomTest : public testing::Test {
+ protected:
+  random_engine engine = create_engine(2024);
+};
+
+TEST_F(RandomTest, NormalOfAPointNearTheCentre) {
+  // Both sides of the branch at a squared radius of 1e-4, down to squares that underflow.
+  for (const double scale : {0.1, 0.02, 0.01, 0.004, 1e-4, 1e-100, 1e-200, 1e-300}) {
+    const double radius = std::hypot(0.6 * scale, 0.7 * scale);
+    const double length = std::sqrt(-4.0 * std::log(radius));
+    double second = 0.7 * scale;
+    const double first = normal_distribution::from_point(-0.6 * scale, second);
+    EXPECT_NEAR(first, length * -0.6 * scale / radius, 1e-13 * length);
+    EXPECT_NEAR(second, length * 0.7 * scale / radius, 1e-13 * length);
   }
-  EXPECT_NO_THROW(check_index("data", 4, 5));
-  EXPECT_NO_THROW(check_at_least("data", 3, 3));
 }
 
-TEST(Integer, RefusesWhatDoesNotFit) {
-  EXPECT_EQ(to_int(2147483647U), 2147483647);
-  EXPECT_THROW(to_int(2147483648U), std::invalid_argument);
+TEST_F(RandomTest, FloatNormalAndGamma) {
+  float_normal_distribution normal;
+  EXPECT_FLOAT_EQ(normal(engine), 0.5056394338607788F);
+  EXPECT_FLOAT_EQ(normal(engine), 1.4773348569869995F);
+  engine = create_engine(2024);
+  EXPECT_DOUBLE_EQ(gamma(engine, 1, 1.0), 0x1.1cddafb803411p-2);
+  EXPECT_DOUBLE_EQ(gamma(engine, 3, 2.0), 0x1.dead401464afep+0);
+  for (const int shape : {0, 20}) EXPECT_THROW(gamma(engine, shape, 1.0), std::invalid_argument);
 }
 
-TEST(Power, WholeExponentsAreProducts) {
-  EXPECT_EQ(create_power_function(3.0 + 9e-7)(1.1), 1.1 * 1.1 * 1.1);
-  EXPECT_EQ(create_power_function(2.0 - 9e-7)(1.1), 1.1 * 1.1);
-  EXPECT_EQ(create_power_function(1.0 + 9e-7)(1.1), 1.1);
-  for (const double exponent : {3.0 + 2e-6, 2.0 - 2e-6, 1.0 - 2e-6, 0.0, -1.0, 2.5}) {
-    EXPECT_EQ(create_power_function(exponent)(1.1), std::pow(1.1, exponent));
+TEST_F(RandomTest, IndexRejectsWhatWouldFavourSomeValues) {
+  const std::uint32_t half = 2147483649;  // rejects every second word
+  std::vector<std::uint32_t> drawn;
+  for (const std::uint32_t range : {1U, 2U, 10U, 1000U, half, half, half, half, 4294967295U}) {
+    drawn.push_back(uniform_index(engine, range));
   }
+  EXPECT_EQ(drawn, (std::vector<std::uint32_t>{0, 1, 6, 738, 404053261, 1277999890, 440274836,
+                                               227768288, 160432443}));
+  EXPECT_EQ(engine(), 3123472611U);
+  EXPECT_THROW(uniform_index(engine, 0), std::invalid_argument);
+}
+
+TEST_F(RandomTest, ShuffleGoesUpwards) {
+  std::vector<int> values(12);
+  std::iota(values.begin(), values.end(), 0);
+  shuffle(values, engine);
+  EXPECT_EQ(values, (std::vector<int>{7, 11, 9, 4, 6, 1, 2, 0, 8, 3, 10, 5}));
+  EXPECT_EQ(engine(), 160432444U);
 }
 
 }  // namespace

@@ -12,6 +12,4 @@ hypothesis.settings.load_profile("gravelox")
 
 @pytest.fixture
 def rng():
-    seed = int(os.environ.get("GRAVELOX_TEST_SEED", "4711"))
-    print(f"GRAVELOX_TEST_SEED={seed}")
-    return np.random.default_rng(seed)
+    return np.random.default_rng(int(os.environ.get("GRAVELOX_TEST_SEED", "4711")))

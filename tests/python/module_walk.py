@@ -1,37 +1,26 @@
 """The module's interface as its docstrings tell it."""
 
 import re
-from types import SimpleNamespace
+from collections import namedtuple
 
 import gravelox
 
+Overload = namedtuple("Overload", "name is_method arguments text")
 SIGNATURE = re.compile(r"^(?:\d+\. )?(\w+)\(((?!\*args).*)\) -> .+$", re.MULTILINE)
-ARGUMENT = re.compile(r"(\w+): (.+?)(?: = (.+))?")
 
 
 def arguments(text):
-    """(name, type, default or None) of each argument of a signature's text, self left out."""
-    parts, depth = [""], 0
-    for letter in text:
-        depth += (letter in "([") - (letter in ")]")
-        if letter == "," and depth == 0:
-            parts.append("")
-        else:
-            parts[-1] += letter
-    found = [ARGUMENT.fullmatch(part.strip()).groups() for part in parts if part.strip()]
-    return [row for row in found if row[0] != "self"]
+    """(name, type) of each argument of a signature's text, self left out."""
+    parts = [part.partition(" = ")[0] for part in re.split(r", (?=\w+: )", text) if part]
+    return [tuple(part.split(": ")) for part in parts if not part.startswith("self: ")]
 
 
 def overloads(name, doc):
     """A record of each overload of a function."""
     found = [match for match in SIGNATURE.finditer(doc) if match[1] == name.split(".")[-1]]
     for match, end in zip(found, [*[later.start() for later in found[1:]], len(doc)]):
-        yield SimpleNamespace(
-            name=name,
-            is_method=match[2].startswith("self:"),
-            arguments=arguments(match[2]),
-            text=doc[match.end() : end],
-        )
+        text, is_method = doc[match.end() : end], match[2].startswith("self:")
+        yield Overload(name, is_method, arguments(match[2]), text)
 
 
 def members():
@@ -48,8 +37,3 @@ def members():
 CLASSES = {name: value for name, value in vars(gravelox).items() if isinstance(value, type)}
 FUNCTIONS = {name: list(overloads(name, doc)) for name, doc in members() if name not in CLASSES}
 OVERLOADS = [overload for found in FUNCTIONS.values() for overload in found]
-
-
-def function(name):
-    owner, _, member = name.rpartition(".")
-    return getattr(CLASSES.get(owner, gravelox), member)

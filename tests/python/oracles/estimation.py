@@ -7,6 +7,7 @@ from collections import Counter
 
 import gravelox
 import numpy as np
+from oracles.spatial import anisotropy
 
 SHAPES = {
     "spherical": lambda h: np.where(h > 1, 0.0, 1 - 1.5 * h + 0.5 * h**3),
@@ -16,23 +17,14 @@ SHAPES = {
 }
 
 
-def structures(model, factor=1.0):
-    """The module's structures of a model, the sills multiplied by a factor."""
+def structures(model):
+    """The module's structures of a model."""
 
     def structure(shape, sill, ranges, angles):
-        metric = () if shape == "nugget" else (gravelox.Ellipsoid(*ranges, *angles),)
-        return getattr(gravelox.Covariance, shape)(sill * factor, *metric)
+        metric = [] if shape == "nugget" else [gravelox.Ellipsoid(ranges, angles)]
+        return getattr(gravelox.Covariance, shape)(sill, *metric)
 
     return [structure(*row) for row in model]
-
-
-def anisotropy(ranges, angles):
-    """The matrix that takes lags to isotropic space."""
-    a, d, k = np.radians([90 - angles[0], -angles[1], angles[2]])
-    rz = [[np.cos(a), np.sin(a), 0], [-np.sin(a), np.cos(a), 0], [0, 0, 1]]
-    ry = [[np.cos(d), 0, -np.sin(d)], [0, 1, 0], [np.sin(d), 0, np.cos(d)]]
-    rx = [[1, 0, 0], [0, np.cos(k), np.sin(k)], [0, -np.sin(k), np.cos(k)]]
-    return np.diag(1 / np.array(ranges, float)) @ rx @ ry @ rz
 
 
 def covariance(model, lags):
@@ -92,29 +84,3 @@ def inverse_distance(samples, values, target, power, max_weight, model=None):
 def moving_window(model, samples, values, target):
     weights = covariance(model, samples - target)
     return weights @ values / weights.sum() if abs(weights.sum()) > 1e-30 else np.nan
-
-
-def generated_models(draw, info, n_kernels, n_covs, delta, min_range, max_range, *sills):
-    """Random nested models from a stream of uniforms; each a list of (sill, ranges, angles).
-
-    Angles of None stand for the ellipsoid itself; the last structure, without ranges, is a nugget.
-    """
-
-    def between(lo, hi):
-        return lo + (hi - lo) * draw()
-
-    for c in range(n_covs):
-        sums, vectors, structures = np.zeros(3), [], []
-        for _ in range(n_kernels):
-            short = draw() + min_range
-            middle = short + draw()
-            sums += [middle + draw(), middle, short]
-            vectors.append(sums / np.linalg.norm(sums) * draw())
-        scale = between(min_range, max_range) / sum(np.linalg.norm(v) for v in vectors)
-        for vector in vectors:
-            first = (info.azimuth(), info.dip(), info.rake())
-            angles = [angle + between(-delta, delta) for angle in first] if c else None
-            structures.append([between(*sills), info.r1() * scale * vector, angles])
-        structures.append([between(*sills) if c else 0.0, None, None])
-        total = sum(sill for sill, _, _ in structures)
-        yield [(sill / total, ranges, angles) for sill, ranges, angles in structures]

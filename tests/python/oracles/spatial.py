@@ -1,11 +1,9 @@
-"""Plain models of ellipsoids, sphere samplers, drill holes and tree searches."""
+"""Plain models of ellipsoids, random draws, sphere samplers and tree searches."""
 
 import bisect
 import math
-import sys
 
 import numpy as np
-from oracles.random_draws import Draws
 from scipy.spatial.transform import Rotation
 
 
@@ -24,8 +22,8 @@ def _behind(v, axis):
 
 
 def _points_away(v, *axes):
-    decided = [behind for behind in (_behind(v, axis) for axis in axes[:-1]) if abs(behind) > 1e-8]
-    return [*decided, _behind(v, axes[-1])][0] > 0.0
+    behinds = [_behind(v, axis) for axis in axes]
+    return next((b for b in behinds if abs(b) > 1e-8), behinds[-1]) > 0.0
 
 
 def orthogonal_rows(matrix, sort=True):
@@ -55,65 +53,64 @@ def ranges_and_angles(matrix):
     return [*ranges, (90.0 - math.degrees(turn)) % 360.0, math.degrees(dip), math.degrees(rake)]
 
 
+class Draws:
+    """Draws over the words of numpy's Mersenne Twister; the second of two normals is kept."""
+
+    def __init__(self, seed):
+        self._bits, self._second = np.random.MT19937(), None
+        self._bits._legacy_seeding(seed % 2**32)
+
+    def uniform(self):
+        first, second = (int(word) for word in self._bits.random_raw(2))
+        return ((second << 21) + (first >> 11)) * 2.0**-53
+
+    def normal(self):
+        if self._second is not None:
+            value, self._second = self._second, None
+            return value
+        while True:
+            v1, v2 = 2.0 * self.uniform() - 1.0, 2.0 * self.uniform() - 1.0
+            if v1 * v1 + v2 * v2 < 1.0 and v1 != 0.0 and v2 != 0.0:
+                break
+        # The squared radius is exponential: no rescaling is needed when it is not squared first.
+        radius = math.hypot(v1, v2)
+        factor = math.sqrt(-4.0 * math.log(radius)) / radius
+        self._second = factor * v2
+        return factor * v1
+
+
 def _halton_direction(index):
     def mirrored(base):
         digits = np.base_repr(max(index, 0), base)
         return int(digits[::-1], base) / base ** len(digits)
 
     phi, z = 2.0 * math.pi * mirrored(2), mirrored(3)
-    return np.array([math.cos(phi), math.sin(phi), 0.0]) * math.sqrt(1.0 - z * z) + [0.0, 0.0, z]
+    radius = math.sqrt(1.0 - z * z)
+    return np.array([radius * math.cos(phi), radius * math.sin(phi), z])
 
 
-def sphere_points(size, seed, both_halves):
+def sphere_points(size, seed):
     draws = Draws(seed)
     turn = rotation(360.0 * draws.uniform(), -90.0 * draws.uniform(), 360.0 * draws.uniform())
-    points = [_halton_direction(seed + i) for i in range(size)]
-    if both_halves:
-        points += [-_halton_direction(seed + size + i) for i in range(size)]
-    return np.array(points) @ turn.T
-
-
-def box_holes(bottom, top, n_samples, min_len, max_len, n_holes, seed):
-    draws = Draws(seed)
-    samples = []
-    for hole in range(1, n_holes + 1):
-        plan = [draws.uniform(bottom[a], top[a]) for a in (0, 1, 0, 1)]
-        foot, collar = np.array([*plan[:2], bottom[2]]), np.array([*plan[2:], top[2]])
-        step = draws.uniform(min_len, max_len) * (foot - collar) / n_samples
-        samples += [(collar + i * step, hole) for i in range(n_samples)]
-    return samples
-
-
-def campaign_holes(sides, n_holes, azimuths, dips, lengths, distances, counts, back, seed):
-    draws = Draws(seed)
-    samples = []
-    for hole in range(n_holes):
-        collar = np.array([draws.uniform() * extent for extent in (*sides, distances[1])])
-        collar[2] += distances[0]
-        azimuth, dip, length, count = (draws.uniform(*b) for b in (azimuths, dips, lengths, counts))
-        step = length / int(count) * rotation(azimuth, dip)[0]
-        samples += [(back @ (collar + i * step), hole) for i in range(int(count))]
-    return samples
+    signs = [1.0] * size + [-1.0] * size
+    return np.array([s * _halton_direction(seed + i) for i, s in enumerate(signs)]) @ turn.T
 
 
 class Found:
     """The k nearest points, of equal ones those met first; or all within a radius, as met."""
 
-    def __init__(self, k=None, radius=0.0):
+    def __init__(self, k=None, radius=math.inf):
         self.k, self.threshold = k, radius * radius
         self.distances, self.ids = [], []
 
     def worst(self):
-        if self.k is None:
-            return self.threshold
-        return self.distances[-1] if len(self.ids) == self.k else sys.float_info.max
+        return self.distances[-1] if len(self.ids) == self.k else self.threshold
 
     def add(self, distance, point_id):
-        by_count = self.k is not None
-        place = bisect.bisect_right(self.distances, distance) if by_count else len(self.ids)
+        place = bisect.bisect_right(self.distances, distance) if self.k else len(self.ids)
         self.distances.insert(place, distance)
         self.ids.insert(place, point_id)
-        if by_count:
+        if self.k:
             del self.distances[self.k :], self.ids[self.k :]
 
 
@@ -123,7 +120,7 @@ class Tree:
     def __init__(self, points, ids):
         self.points, self.ids = points, list(ids)
         self.box = self._tight_box(0, len(self.ids))
-        self.root, _ = self._divide(0, len(self.ids), self.box)
+        self.root = self._divide(0, len(self.ids), self.box)
 
     def _tight_box(self, left, right):
         columns = zip(*(self.points[i] for i in self.ids[left:right]))
@@ -131,14 +128,13 @@ class Tree:
 
     def _divide(self, left, right, box):
         if right - left <= 10:
-            return (left, right), self._tight_box(left, right)
+            return left, right
         axis, cut, middle = self._split(left, right, box)
         lower, upper = list(box), list(box)
         lower[axis], upper[axis] = (box[axis][0], cut), (cut, box[axis][1])
-        low, lower = self._divide(left, middle, lower)
-        high, upper = self._divide(middle, right, upper)
-        union = [(min(a[0], b[0]), max(a[1], b[1])) for a, b in zip(lower, upper)]
-        return (axis, lower[axis][1], upper[axis][0], low, high), union
+        low, high = self._divide(left, middle, lower), self._divide(middle, right, upper)
+        low_end = self._tight_box(left, middle)[axis][1]
+        return axis, low_end, self._tight_box(middle, right)[axis][0], low, high
 
     def _split(self, left, right, box):
         spans, tight = [high - low for low, high in box], self._tight_box(left, right)
@@ -162,8 +158,7 @@ class Tree:
             left, right = left + 1, right - 1
 
     def search(self, center, factor, found):
-        gaps = [max(low - c, c - high, 0.0) for c, (low, high) in zip(center, self.box)]
-        gaps = [gap * gap for gap in gaps]
+        gaps = [max(low - c, c - high, 0.0) ** 2 for c, (low, high) in zip(center, self.box)]
         self._visit(self.root, center, factor, found, sum(gaps), gaps)
 
     def _visit(self, node, center, factor, found, gap, gaps):
