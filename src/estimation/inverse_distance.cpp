@@ -50,6 +50,26 @@ class blend {
   double close_sum_ = 0.0;
 };
 
+/// The run of both forms; add_all(target, neis, scratch, mean) adds two neighbours or more.
+template <typename Scratch, typename AddAll>
+std::vector<double> estimate_all(const location_list& target_locs, const nei_getter& getter,
+                                 const std::vector<double>& data, double max_weight, int n_threads,
+                                 const AddAll& add_all) {
+  std::vector<double> estimates(target_locs.size(), not_a_number);
+  const auto estimate = [&](std::size_t index, const location& target,
+                            const std::vector<std::size_t>& neis, Scratch& scratch) {
+    if (neis.size() == 1) {
+      estimates[index] = data[neis.front()];
+      return;
+    }
+    blend mean(max_weight);
+    add_all(target, neis, scratch, mean);
+    estimates[index] = mean.value();
+  };
+  detail::for_each_target<Scratch>(target_locs, getter, n_threads, estimate);
+  return estimates;
+}
+
 }  // namespace
 
 std::vector<double> idw_estimation(const location_list& target_locs, const location_list& data_locs,
@@ -61,18 +81,12 @@ std::vector<double> idw_estimation(const location_list& target_locs, const locat
   detail::check_samples(target_locs, data_locs, data);
   const nei_getter getter = create_nei_getter(data_locs, neighborhood, max_neighbors, max_radius,
                                               max_neighbors_octant, dhids, max_neis_by_dhid);
-  std::vector<double> estimates(target_locs.size(), not_a_number);
   using distance_list = std::vector<double>;
-  const auto estimate = [&](std::size_t index, const location& target,
-                            const std::vector<std::size_t>& neis, distance_list& distances) {
-    if (neis.size() == 1) {
-      estimates[index] = data[neis.front()];
-      return;
-    }
+  const auto add_all = [&](const location& target, const std::vector<std::size_t>& neis,
+                           distance_list& distances, blend& mean) {
     // All distances first: the samples lie scattered in memory, and so they are fetched together.
     distances.clear();
     for (const std::size_t nei : neis) distances.push_back((data_locs[nei] - target).norm());
-    blend mean(max_weight);
     for (std::size_t i = 0; i < neis.size(); ++i) {
       if (distances[i] < threshold) {
         mean.add_close(data[neis[i]]);
@@ -80,10 +94,8 @@ std::vector<double> idw_estimation(const location_list& target_locs, const locat
         mean.add_far(1.0 / std::pow(distances[i], power_a), data[neis[i]]);
       }
     }
-    estimates[index] = mean.value();
   };
-  detail::for_each_target<distance_list>(target_locs, getter, n_threads, estimate);
-  return estimates;
+  return estimate_all<distance_list>(target_locs, getter, data, max_weight, n_threads, add_all);
 }
 
 std::vector<double> idw_estimation(const location_list& target_locs, const location_list& data_locs,
@@ -98,16 +110,10 @@ std::vector<double> idw_estimation(const location_list& target_locs, const locat
                                               max_neighbors_octant, dhids, max_neis_by_dhid);
   const cov_computer cov = create_cov_computer(covs);
   const power_function f = create_power_function(power_a);
-  std::vector<double> estimates(target_locs.size(), not_a_number);
-  const auto estimate = [&](std::size_t index, const location& target,
-                            const std::vector<std::size_t>& neis, lag_buffer& lags) {
-    if (neis.size() == 1) {
-      estimates[index] = data[neis.front()];
-      return;
-    }
+  const auto add_all = [&](const location& target, const std::vector<std::size_t>& neis,
+                           lag_buffer& lags, blend& mean) {
     lags.set(data_locs, neis, target, target);
     const double* covariances = cov.to_target(lags);
-    blend mean(max_weight);
     for (std::size_t i = 0; i < neis.size(); ++i) {
       const double value = data[neis[i]];
       if ((data_locs[neis[i]] - target).norm() > threshold) {
@@ -116,10 +122,8 @@ std::vector<double> idw_estimation(const location_list& target_locs, const locat
         mean.add_close(value);
       }
     }
-    estimates[index] = mean.value();
   };
-  detail::for_each_target<lag_buffer>(target_locs, getter, n_threads, estimate);
-  return estimates;
+  return estimate_all<lag_buffer>(target_locs, getter, data, max_weight, n_threads, add_all);
 }
 
 Estimator create_idw_estimator(double power_a, double max_weight, int max_neighbors,

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <limits>
-#include <string>
 #include <utility>
 
 #include "common/checks.hpp"
@@ -61,46 +60,29 @@ struct DynamicNeighborhood::index {
   tree_type tree;
 };
 
-DynamicNeighborhood::DynamicNeighborhood() : DynamicNeighborhood({}, Ellipsoid(), false) {}
+DynamicNeighborhood::DynamicNeighborhood() : DynamicNeighborhood(location_list(), search_space()) {}
 
 DynamicNeighborhood::DynamicNeighborhood(const Ellipsoid& ellipsoid)
-    : DynamicNeighborhood({}, ellipsoid, true) {}
+    : DynamicNeighborhood(location_list(), search_space(ellipsoid)) {}
 
 DynamicNeighborhood::DynamicNeighborhood(const location_list& locations, const Ellipsoid& ellipsoid)
-    : DynamicNeighborhood(locations, ellipsoid, true) {}
+    : DynamicNeighborhood(locations, search_space(ellipsoid)) {}
 
 DynamicNeighborhood::DynamicNeighborhood(const location_list& locations)
-    : DynamicNeighborhood(locations, Ellipsoid(), false) {}
+    : DynamicNeighborhood(locations, search_space()) {}
 
-DynamicNeighborhood::DynamicNeighborhood(const location_list& locations, const Ellipsoid& ellipsoid,
-                                         bool has_ellipsoid)
-    : has_ellipsoid_(has_ellipsoid), ellipsoid_(ellipsoid) {
-  index_ = std::make_unique<index>(to_search_space("locations", locations));
-}
+DynamicNeighborhood::DynamicNeighborhood(const location_list& locations, const search_space& space)
+    : space_(space), index_(std::make_unique<index>(space.map_checked("locations", locations))) {}
 
 DynamicNeighborhood::~DynamicNeighborhood() = default;
 DynamicNeighborhood::DynamicNeighborhood(DynamicNeighborhood&&) noexcept = default;
 DynamicNeighborhood& DynamicNeighborhood::operator=(DynamicNeighborhood&&) noexcept = default;
 
-location DynamicNeighborhood::to_search_space(const location& point) const {
-  return has_ellipsoid_ ? ellipsoid_.forward(point) : point;
-}
-
-location_list DynamicNeighborhood::to_search_space(std::string_view name,
-                                                   const location_list& points) const {
-  check_finite(name, points);
-  location_list mapped(points.size());
-  std::transform(points.begin(), points.end(), mapped.begin(),
-                 [this](const location& point) { return to_search_space(point); });
-  check_finite(std::string(name) + " under the ellipsoid", mapped);
-  return mapped;
-}
-
 std::vector<std::size_t> DynamicNeighborhood::find_neighbors(const location& center,
                                                              int max_size) const {
   check_at_least("max_size", max_size, 0);
   neighbor_buffer buffer;
-  detail::search_by_count(index_->tree, to_search_space("center", {center}).front(),
+  detail::search_by_count(index_->tree, space_.map_checked("center", center),
                           std::min(to_size(max_size), size()), buffer);
   return std::move(buffer.ids);
 }
@@ -109,8 +91,8 @@ std::vector<std::size_t> DynamicNeighborhood::find_neighbors(const location& cen
                                                              double max_radius) const {
   neighbor_buffer buffer;
   const auto eps = static_cast<float>(max_radius * max_radius);
-  detail::search_by_radius(index_->tree, to_search_space("center", {center}).front(), max_radius,
-                           eps, buffer);
+  detail::search_by_radius(index_->tree, space_.map_checked("center", center), max_radius, eps,
+                           buffer);
   detail::store_found_ids(buffer);
   return std::move(buffer.ids);
 }
@@ -122,11 +104,11 @@ std::size_t DynamicNeighborhood::nearest_neighbor(const location& point) const {
 }
 
 void DynamicNeighborhood::add_point(const location& point) {
-  index_->add(to_search_space("point", {point}));
+  index_->add({space_.map_checked("point", point)});
 }
 
 void DynamicNeighborhood::add_points(const location_list& points) {
-  index_->add(to_search_space("points", points));
+  index_->add(space_.map_checked("points", points));
 }
 
 void DynamicNeighborhood::remove_point(int id) {

@@ -5,11 +5,11 @@
 
 #include <cstddef>
 #include <memory>
-#include <string_view>
 #include <vector>
 
 #include "common/location.hpp"
 #include "spatial/ellipsoid.hpp"
+#include "spatial/search_space.hpp"
 
 namespace gravelox {
 
@@ -63,13 +63,9 @@ class DynamicNeighborhood {
  private:
   struct index;
 
-  DynamicNeighborhood(const location_list& locations, const Ellipsoid& ellipsoid,
-                      bool has_ellipsoid);
-  location to_search_space(const location& point) const;
-  location_list to_search_space(std::string_view name, const location_list& points) const;
+  DynamicNeighborhood(const location_list& locations, const search_space& space);
 
-  bool has_ellipsoid_;
-  Ellipsoid ellipsoid_;
+  search_space space_;
   std::unique_ptr<index> index_;
 };
 

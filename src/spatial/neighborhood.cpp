@@ -66,42 +66,30 @@ class Neighborhood::index {
 };
 
 Neighborhood::Neighborhood(const location_list& locations, const Ellipsoid& ellipsoid)
-    : has_ellipsoid_(true), ellipsoid_(ellipsoid) {
-  check_finite("locations", locations);
-  location_list mapped = ellipsoid.forward(locations, 1);
-  check_finite("locations under the ellipsoid", mapped);
-  index_ = std::make_shared<const index>(std::move(mapped));
-}
+    : Neighborhood(locations, search_space(ellipsoid)) {}
 
-Neighborhood::Neighborhood(const location_list& locations) : has_ellipsoid_(false) {
-  check_finite("locations", locations);
-  index_ = std::make_shared<const index>(locations);
-}
+Neighborhood::Neighborhood(const location_list& locations)
+    : Neighborhood(locations, search_space()) {}
 
-location Neighborhood::to_search_space(const location& point) const {
-  return has_ellipsoid_ ? ellipsoid_.forward(point) : point;
-}
-
-void Neighborhood::check_center(const location& center) const {
-  check_finite("center", center);
-  check_finite("center under the ellipsoid", to_search_space(center));
-}
+Neighborhood::Neighborhood(const location_list& locations, const search_space& space)
+    : space_(space),
+      index_(std::make_shared<const index>(space.map_checked("locations", locations))) {}
 
 void Neighborhood::find_neighbors(const location& center, int max_size,
                                   neighbor_buffer& buffer) const {
   const std::size_t k = std::min(to_size(std::max(max_size, 0)), size());
-  index_->search_by_count(to_search_space(center), k, buffer);
+  index_->search_by_count(space_.map(center), k, buffer);
 }
 
 void Neighborhood::find_neighbors(const location& center, double max_radius,
                                   neighbor_buffer& buffer) const {
-  index_->search_by_radius(to_search_space(center), max_radius, buffer);
+  index_->search_by_radius(space_.map(center), max_radius, buffer);
   std::sort(buffer.found.begin(), buffer.found.end(), nanoflann::IndexDist_Sorter());
   detail::store_found_ids(buffer);
 }
 
 std::vector<std::size_t> Neighborhood::find_neighbors(const location& center, int max_size) const {
-  check_center(center);
+  space_.map_checked("center", center);
   check_at_least("max_size", max_size, 0);
   neighbor_buffer buffer;
   find_neighbors(center, max_size, buffer);
@@ -110,7 +98,7 @@ std::vector<std::size_t> Neighborhood::find_neighbors(const location& center, in
 
 std::vector<std::size_t> Neighborhood::find_neighbors(const location& center,
                                                       double max_radius) const {
-  check_center(center);
+  space_.map_checked("center", center);
   neighbor_buffer buffer;
   find_neighbors(center, max_radius, buffer);
   return std::move(buffer.ids);

@@ -11,6 +11,7 @@
 #include "common/location.hpp"
 #include "spatial/ellipsoid.hpp"
 #include "spatial/neighbor_buffer.hpp"
+#include "spatial/search_space.hpp"
 
 namespace gravelox {
 
@@ -51,11 +52,9 @@ class Neighborhood {
  private:
   class index;
 
-  location to_search_space(const location& point) const;
-  void check_center(const location& center) const;
+  Neighborhood(const location_list& locations, const search_space& space);
 
-  bool has_ellipsoid_;
-  Ellipsoid ellipsoid_;
+  search_space space_;
   std::shared_ptr<const index> index_;
 };
 
