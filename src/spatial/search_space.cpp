@@ -16,7 +16,7 @@ std::string after_map(std::string_view name) { return std::string(name) + " unde
 
 location search_space::map_checked(std::string_view name, const location& point) const {
   check_finite(name, point);
-  const location mapped = map(point);
+  location mapped = map(point);
   check_finite(after_map(name), mapped);
   return mapped;
 }
