@@ -13,5 +13,7 @@ void register_spatial_module(py::module_& m);
 void register_covariance_module(py::module_& m);
 void register_grid_module(py::module_& m);
 void register_estimation_module(py::module_& m);
+void register_variography_module(py::module_& m);
+void register_spectra_module(py::module_& m);
 
 }  // namespace gravelox

@@ -2,6 +2,7 @@
 #include "module/casters.hpp"
 
 #include "module/families.hpp"
+#include "module/grid_defaults.hpp"
 #include "module/grid_docs.hpp"
 #include "spatial/bounding_box.hpp"
 #include "spatial/drillholes.hpp"
@@ -12,11 +13,6 @@ namespace gravelox {
 namespace {
 
 using py::arg;
-
-// Defaults carry their own text, so that signatures read the same on every run.
-py::arg_v default_origin() { return {"origin", location(location::Zero()), "(0, 0, 0)"}; }
-
-py::arg_v default_rotation() { return {"rotation", location(90.0, 0.0, 0.0), "(90, 0, 0)"}; }
 
 py::arg_v default_deformation() {
   return {"deformation", Ellipsoid(1, 1, 1, 0, 0, 0), "Ellipsoid(1, 1, 1, 0, 0, 0)"};
@@ -101,7 +97,9 @@ void register_grid_module(py::module_& m) {
   // All classes first: a signature prints the Python name only of a class that is registered.
   py::class_<CartesianGrid> grid(m, "CartesianGrid", docs::grid);
   py::class_<BlockModel> blocks(m, "BlockModel", docs::block_model);
-  py::class_<BoundingBox> box(m, "BoundingBox", docs::bounding_box);
+  // That of the box is, since the spatial family.
+  auto box = py::reinterpret_borrow<py::class_<BoundingBox>>(py::type::of<BoundingBox>());
+  m.attr("BoundingBox") = box;
   bind_cartesian_grid(grid);
   bind_block_model(blocks);
   bind_bounding_box(box);

@@ -16,4 +16,6 @@ PYBIND11_MODULE(gravelox, m) {
   gravelox::register_covariance_module(m);
   gravelox::register_grid_module(m);
   gravelox::register_estimation_module(m);
+  gravelox::register_variography_module(m);
+  gravelox::register_spectra_module(m);
 }

@@ -3,11 +3,16 @@
 
 #include "module/ellipsoid_docs.hpp"
 #include "module/families.hpp"
+#include "module/grid_docs.hpp"
 #include "module/neighborhood_docs.hpp"
+#include "module/rotation_docs.hpp"
 #include "spatial/axes.hpp"
+#include "spatial/bounding_box.hpp"
 #include "spatial/dynamic_neighborhood.hpp"
 #include "spatial/ellipsoid.hpp"
+#include "spatial/extreme_points.hpp"
 #include "spatial/neighborhood.hpp"
+#include "spatial/rotation_sampling.hpp"
 #include "spatial/spatial_function.hpp"
 #include "spatial/sphere_sampling.hpp"
 
@@ -35,6 +40,28 @@ location_list volume(const Ellipsoid& ellipsoid, int n_points, int n_lags, int s
 std::pair<location_list, std::vector<int>> directions(const Ellipsoid& ellipsoid, int n_directions,
                                                       int n_lags, int seed) {
   return ellipsoid.directions(n_directions, n_lags, seed);
+}
+
+std::pair<BoundingBox, Ellipsoid> rotation_of_least_box(const location_list& locations,
+                                                        int sample_size, int n_iterations,
+                                                        int n_threads, int seed,
+                                                        bool use_fixed_samples, int n_rays) {
+  return optimize_rotation(locations, sample_size, n_iterations, n_threads, seed, use_fixed_samples,
+                           n_rays);
+}
+
+location_list outermost_points(const location_list& locations, int n_rays, int seed,
+                               int n_threads) {
+  return extreme_points(locations, n_rays, seed, n_threads);
+}
+
+std::vector<Eigen::Matrix3d> rotations(int n_rays, int seed, double tol) {
+  return generate_rotations(n_rays, seed, tol);
+}
+
+std::vector<Ellipsoid> ellipsoids(double min_range, double max_range, int n_rays, int n_scales,
+                                  int seed, double tol) {
+  return generate_ellipsoids(min_range, max_range, n_rays, n_scales, seed, tol);
 }
 
 void bind_spatial_function(py::module_& m) {
@@ -144,6 +171,23 @@ void bind_dynamic_neighborhood(py::module_& m) {
       .def("remove_point", &DynamicNeighborhood::remove_point, arg("id"), docs::remove_point);
 }
 
+void bind_rotation_sampling(py::module_& m) {
+  // A signature prints the Python name only of a class that is registered: the box comes first, and
+  // takes its place among the names of the module with its own family. Until then this reference
+  // alone keeps it alive.
+  py::class_<BoundingBox>(m, "BoundingBox", docs::bounding_box).inc_ref();
+  m.def("optimize_rotation", &rotation_of_least_box, arg("locations"), arg("sample_size") = 30000,
+        arg("n_iterations") = 20000, arg("n_threads") = 0, arg("seed") = 12356,
+        arg("use_fixed_samples") = true, arg("n_rays") = 600, docs::optimize_rotation);
+  m.def("extreme_points", &outermost_points, arg("locations"), arg("n_rays") = 600,
+        arg("seed") = 121315, arg("n_threads") = 0, docs::extreme_points);
+  m.def("generate_rotations", &rotations, arg("n_rays"), arg("seed"), arg("tol"),
+        docs::generate_rotations);
+  m.def("generate_ellipsoids", &ellipsoids, arg("min_range"), arg("max_range"), arg("n_rays"),
+        arg("n_scales"), arg("seed"), arg("tol"), docs::generate_ellipsoids);
+  py::delattr(m, "BoundingBox");
+}
+
 }  // namespace
 
 void register_spatial_module(py::module_& m) {
@@ -153,6 +197,7 @@ void register_spatial_module(py::module_& m) {
   bind_samplers_and_axes(m);
   bind_neighborhood(m);
   bind_dynamic_neighborhood(m);
+  bind_rotation_sampling(m);
 }
 
 }  // namespace gravelox

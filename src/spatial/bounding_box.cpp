@@ -10,24 +10,32 @@ namespace {
 
 constexpr double unbounded = 1e30;
 
+/// The least and greatest coordinates, infinite where there is none.
+struct coordinate_bounds {
+  location least = location::Constant(std::numeric_limits<double>::infinity());
+  location greatest = -least;
+
+  explicit coordinate_bounds(const location_list& points) {
+    for (const location& point : points) {
+      for (Eigen::Index axis = 0; axis < 3; ++axis) {
+        least[axis] = std::min(least[axis], point[axis]);
+        greatest[axis] = std::max(greatest[axis], point[axis]);
+      }
+    }
+  }
+
+  location length() const { return (greatest - least).cwiseMax(0.0); }
+};
+
 }  // namespace
 
-BoundingBox::BoundingBox(const location_list& corners)
-    : lower_(location::Constant(unbounded)),
-      upper_(location::Constant(-unbounded)),
-      length_(location::Zero()),
-      corners_(corners) {
-  for (Eigen::Index axis = 0; axis < 3; ++axis) {
-    double least = std::numeric_limits<double>::infinity();
-    double greatest = -least;
-    for (const location& corner : corners) {
-      least = std::min(least, corner[axis]);
-      greatest = std::max(greatest, corner[axis]);
-    }
-    lower_[axis] = std::min(lower_[axis], least);
-    upper_[axis] = std::max(upper_[axis], greatest);
-    length_[axis] = std::max(0.0, greatest - least);
-  }
+location extent(const location_list& points) { return coordinate_bounds(points).length(); }
+
+BoundingBox::BoundingBox(const location_list& corners) : corners_(corners) {
+  const coordinate_bounds bounds(corners);
+  lower_ = bounds.least.cwiseMin(unbounded);
+  upper_ = bounds.greatest.cwiseMax(-unbounded);
+  length_ = bounds.length();
 }
 
 }  // namespace gravelox

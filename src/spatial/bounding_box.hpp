@@ -7,6 +7,9 @@
 
 namespace gravelox {
 
+/// Per axis the greatest distance between two of the points; 0 without points.
+location extent(const location_list& points);
+
 /// An immutable box with the points that it was made from. Without points lower is 1e30, upper
 /// -1e30 and length 0 on every axis.
 class BoundingBox {

@@ -59,6 +59,7 @@ CartesianGrid::CartesianGrid(const location& length, const cell_triple& number_o
                              const location& origin, const location& rotation)
     : transformation_(length, rotation),
       origin_(origin),
+      rotation_(rotation),
       counts_(number_of_cells),
       size_(checked_size(number_of_cells)),
       cell_size_(transformation_.backward(as_location(counts_).cwiseInverse())) {

@@ -60,6 +60,9 @@ class CartesianGrid {
 
   const location& origin() const { return origin_; }
 
+  /// (azimuth, dip, rake) in degrees.
+  const location& rotation() const { return rotation_; }
+
   /// The 8 outermost cell locations, k innermost; not the ends of the box. Along an axis of one
   /// cell they come twice.
   const location_list& corners() const { return corners_; }
@@ -71,6 +74,7 @@ class CartesianGrid {
 
   Ellipsoid transformation_;
   location origin_;
+  location rotation_;
   cell_triple counts_;
   std::size_t size_;
   location cell_size_;
@@ -85,6 +89,9 @@ class BlockModel {
 
   const location& cell_size() const { return grid_.cell_size(); }
   const CartesianGrid& base_grid() const { return grid_; }
+
+  /// The ids of the active cells in the base grid, ascending.
+  const std::vector<int>& active_ids() const { return active_ids_; }
 
   /// The locations of the active cells.
   location_list locations() const;

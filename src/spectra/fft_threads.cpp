@@ -13,8 +13,8 @@ bool fft_threads_ready = false;
 
 }  // namespace
 
-std::mutex& fft_mutex() {
-  static std::mutex mutex;
+std::recursive_mutex& fft_mutex() {
+  static std::recursive_mutex mutex;
   return mutex;
 }
 

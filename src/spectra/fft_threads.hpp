@@ -8,7 +8,8 @@
 namespace gravelox {
 
 /// Guards changes of the library's thread state and its planner, neither of which is thread-safe.
-std::mutex& fft_mutex();
+/// Whoever plans several transforms in one go may hold it throughout: it is recursive.
+std::recursive_mutex& fft_mutex();
 
 /// Readies the library for threads; only the first call does anything. Hold fft_mutex.
 void ready_fft_threads();

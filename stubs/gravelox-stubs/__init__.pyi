@@ -2,7 +2,8 @@ from __future__ import annotations
 import numpy
 import numpy.typing
 import typing
-__all__: list[str] = ['BlockModel', 'BoundingBox', 'CartesianGrid', 'Covariance', 'Direction', 'DynamicNeighborhood', 'Ellipsoid', 'EllipsoidInfo', 'Estimator', 'IDW', 'Kernel', 'Neighborhood', 'OrdinaryKriging', 'Rotation', 'SimpleKriging', 'SpatialFunction', 'check_n_threads', 'compute_ordinary_kriging', 'compute_simple_kriging', 'covariance_computer', 'create_random_drillholes', 'extract_ellipsoid_info', 'generate_covariances', 'generate_random_semisphere', 'generate_random_sphere', 'moving_window_estimation', 'orthogonolize_axes', 'set_fft_n_threads', 'sort_matrix3d']
+from . import fft
+__all__: list[str] = ['BlockModel', 'BoundingBox', 'CartesianGrid', 'Covariance', 'Direction', 'DynamicNeighborhood', 'Ellipsoid', 'EllipsoidInfo', 'Estimator', 'ExperimentalVariogram', 'IDW', 'Kernel', 'Neighborhood', 'OrdinaryKriging', 'Rotation', 'SimpleKriging', 'SpatialFunction', 'check_n_threads', 'compute_exp_variogram', 'compute_ordinary_kriging', 'compute_simple_kriging', 'compute_variogram', 'covariance_computer', 'create_random_drillholes', 'extract_ellipsoid_info', 'extreme_points', 'fft', 'generate_covariances', 'generate_ellipsoids', 'generate_random_semisphere', 'generate_random_sphere', 'generate_rotations', 'moving_window_estimation', 'optimize_rotation', 'orthogonolize_axes', 'set_fft_n_threads', 'smooth_variogram', 'sort_matrix3d', 'variogram_computer']
 class BlockModel:
     """
 
@@ -1096,6 +1097,168 @@ class Estimator:
             If lists differ in length, a coordinate is not finite, or the neighbourhood holds more
             locations than `data_locs`.
         """
+class ExperimentalVariogram:
+    """
+
+    A cloud of lags with their semivariances and pair counts, grouped by direction.
+
+    Lags are sample points of lag space, not the centres of regular bins. The object does not change,
+    and everything that it returns is a copy.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> variogram = gravelox.ExperimentalVariogram(
+    ...     [(1, 0, 0), (0, 1, 0), (2, 0, 0)], [0.5, 0.7, 0.9], [40, 30, 20], [0, 1, 0],
+    ...     [(1, 0, 0), (0, 1, 0)])
+    >>> lags, values, npairs = variogram.get_variogram(90, 0)
+    >>> values, npairs
+    ([0.5, 0.9], [40, 20])
+    """
+    def __init__(self, lags: numpy.typing.ArrayLike, variogram: numpy.typing.ArrayLike, npairs: numpy.typing.ArrayLike, direction_id: numpy.typing.ArrayLike, directions: numpy.typing.ArrayLike) -> None:
+        """
+        Make a variogram from its lags.
+
+        Parameters
+        ----------
+        lags : array_like of shape (n, 3)
+            Lag vectors, in metres or another length unit.
+        variogram : list of float of length n
+            Semivariances, in data units squared.
+        npairs : list of int of length n
+            Pair counts.
+        direction_id : list of int of length n
+            The position of each lag's direction in `directions`.
+        directions : array_like of shape (m, 3)
+            Unit vectors.
+
+        Raises
+        ------
+        ValueError
+            If lists differ in length or an id is out of range.
+        """
+    def direction_ids(self) -> list[int]:
+        """
+        The direction of each lag.
+
+        Returns
+        -------
+        list of int
+            Positions in `directions()`.
+        """
+    def directions(self) -> list[numpy.ndarray[numpy.float64[3, 1]]]:
+        """
+        All directions, those without lags too.
+
+        Returns
+        -------
+        list of numpy.ndarray of shape (3,)
+            Unit vectors.
+        """
+    @typing.overload
+    def get_variogram(self, azimuth: float, dip: float) -> tuple[list[numpy.ndarray[numpy.float64[3, 1]]], list[float], list[int]]:
+        """
+        Lags of the direction nearest to an azimuth and dip.
+
+        Parameters
+        ----------
+        azimuth : float
+            Degrees clockwise from north.
+        dip : float
+            Degrees, positive upward.
+
+        Returns
+        -------
+        lags : list of numpy.ndarray of shape (3,)
+            Lag vectors, by length.
+        variogram : list of float
+            Semivariances, in data units squared.
+        npairs : list of int
+            Pair counts.
+
+        Notes
+        -----
+        Of the directions that have lags. Opposite directions are two. Three empty lists where there is
+        none.
+        """
+    @typing.overload
+    def get_variogram(self, dir: numpy.typing.ArrayLike) -> tuple[list[numpy.ndarray[numpy.float64[3, 1]]], list[float], list[int]]:
+        """
+        Lags of the direction nearest to a vector.
+
+        Parameters
+        ----------
+        dir : array_like of shape (3,)
+            A vector of any length but 0.
+
+        Returns
+        -------
+        lags : list of numpy.ndarray of shape (3,)
+            Lag vectors, by length.
+        variogram : list of float
+            Semivariances, in data units squared.
+        npairs : list of int
+            Pair counts.
+        """
+    def get_variogram_by_direction_id(self, direction_id: int) -> tuple[list[numpy.ndarray[numpy.float64[3, 1]]], list[float], list[int]]:
+        """
+        Lags of a direction.
+
+        Parameters
+        ----------
+        direction_id : int
+            A position in `directions()`.
+
+        Returns
+        -------
+        lags : list of numpy.ndarray of shape (3,)
+            Lag vectors, by length.
+        variogram : list of float
+            Semivariances, in data units squared.
+        npairs : list of int
+            Pair counts.
+
+        Raises
+        ------
+        ValueError
+            If the id is out of range.
+        """
+    def lags(self) -> list[numpy.ndarray[numpy.float64[3, 1]]]:
+        """
+        Lag vectors.
+
+        Returns
+        -------
+        list of numpy.ndarray of shape (3,)
+            In metres or another length unit, direction by direction and by length.
+        """
+    def lags_by_dir(self) -> list[list[int]]:
+        """
+        Positions of the lags of each direction.
+
+        Returns
+        -------
+        list of list of int
+            One list for each direction, ascending; empty for a direction without lags.
+        """
+    def npairs(self) -> list[int]:
+        """
+        Pair counts.
+
+        Returns
+        -------
+        list of int
+            One for each lag.
+        """
+    def variogram(self) -> list[float]:
+        """
+        Semivariances.
+
+        Returns
+        -------
+        list of float
+            One for each lag, in data units squared.
+        """
 class Kernel:
     """
 
@@ -1472,6 +1635,72 @@ def check_n_threads(n_threads: int = 0) -> int:
     >>> gravelox.check_n_threads(-2) == gravelox.check_n_threads(0)
     True
     """
+def compute_exp_variogram(data_locs: numpy.typing.ArrayLike, data_values: numpy.typing.ArrayLike, n_centers: int = 60, angle_tol: float = 5.0, n_lags: int = 75, lag_tol: float = 0.001, bandwidth: float = 0.02, window_size: int = 2, n_directions: int = 300, tol: float = 0.01, n_threads: int = 0, seed: int = 12415) -> ExperimentalVariogram:
+    """
+    Experimental variogram of scattered samples, from pairs around chosen centres.
+
+    Along each of 2 `n_directions` random directions lies a narrow search ellipsoid, three times as long
+    as the samples' extent that way to each side. The neighbours of each centre in it form the pairs,
+    and those whose lag is close to the direction count. Lags are random too: half-normal lengths in
+    units of the extent.
+
+    A pair counts once for each centre that sees it, so pair counts tell weights rather than distinct
+    pairs. The interpreter lock is released.
+
+    Parameters
+    ----------
+    data_locs : array_like of shape (n, 3)
+        Locations of the samples, in metres or another length unit.
+    data_values : sequence of float of length n
+        Values of the samples, in data units.
+    n_centers : int
+        Number of centres: the sample of the highest value, and others drawn from the highest values.
+        From n - 1 on every sample is a centre.
+    angle_tol : float
+        Greatest angle between a pair's lag and the direction, in degrees.
+    n_lags : int
+        Lags drawn for each direction; those without pairs are left out.
+    lag_tol : float
+        Least length of a lag, as a share of the samples' extent that way.
+    bandwidth : float
+        Half-width of the search ellipsoid, as a share of the samples' extent; not 0.
+    window_size : int
+        A pair goes to the first lag not shorter than its own and to this many on either side; with 0
+        each pair counts for one lag.
+    n_directions : int
+        Half the number of directions.
+    tol : float
+        How far the random vector that turns a search ellipsoid about its direction has to be from
+        parallel to it (1 less the cosine of their angle). From 1 on no vector is.
+    n_threads : int
+        Threads; 0 means all. The result does not depend on it.
+    seed : int
+        Accepted and not used: all draws start from one fixed seed.
+
+    Returns
+    -------
+    ExperimentalVariogram
+        The lags that have pairs, and all directions. Without samples there are no lags.
+
+    Raises
+    ------
+    ValueError
+        If lists differ in length, a number is not finite, a count is negative, `bandwidth` is 0, or no
+        random vector meets `tol`.
+
+    Examples
+    --------
+    Values that change along x only:
+
+    >>> import gravelox
+    >>> import numpy as np
+    >>> locations = np.random.RandomState(1).uniform(0, 100, (400, 3))
+    >>> values = np.sin(locations[:, 0] / 10)
+    >>> variogram = gravelox.compute_exp_variogram(locations, values, bandwidth=0.1, angle_tol=20)
+    >>> mean = lambda azimuth: np.mean(variogram.get_variogram(azimuth, 0)[1])
+    >>> bool(mean(90) > 2 * mean(0))
+    True
+    """
 def compute_ordinary_kriging(target_locs: numpy.typing.ArrayLike, data_locs: numpy.typing.ArrayLike, data: numpy.typing.ArrayLike, covs: list[Covariance], neighborhood: Neighborhood, max_neighbors: int, max_radius: float = -1.0, max_neighbors_octant: int = -1, n_threads: int = 0, dhids: numpy.typing.ArrayLike = [], max_neis_by_dhid: int = -1) -> tuple[list[float], list[float]]:
     """
     Estimates and variances of ordinary kriging, in parallel.
@@ -1603,6 +1832,152 @@ def compute_simple_kriging(target_locs: numpy.typing.ArrayLike, data_locs: numpy
     >>> round(estimates[0], 6)
     2.0
     """
+@typing.overload
+def compute_variogram(corners: numpy.typing.ArrayLike, locations: numpy.typing.ArrayLike, data: numpy.typing.ArrayLike, nx: int, ny: int, nz: int, n_directions: int, n_lags: int, bandwidth: float, n_threads: int = 0, seed: int = 12415, origin: numpy.typing.ArrayLike = (0, 0, 0), rotation: numpy.typing.ArrayLike = (90, 0, 0)) -> ExperimentalVariogram:
+    """
+    Experimental variogram of values that lie on a grid, from the variogram map of a working grid.
+
+    Locations are laid over a working grid of `nx` x `ny` x `nz` cells, whose semivariances at all lags
+    come from Fourier transforms, whatever the number of pairs. Cells without a value are missing. Lags
+    are random: 2 `n_directions` random directions, always the same ones, with `n_lags` half-normal
+    lengths on each, in units of the grid's extent. Each lag is the mean, weighted by pairs, of the map
+    cells near it, up to half the grid away.
+
+    Parameters
+    ----------
+    corners : array_like of shape (m, 3)
+        Points whose box in the rotated frame is the extent of the working grid.
+    locations : array_like of shape (n, 3)
+        Where the values are, in metres or another length unit; those outside the grid are left out.
+    data : sequence of float of length n
+        Values in data units, NaN where missing. Of several in one cell the last one counts.
+    nx, ny, nz : int
+        Cells of the working grid, at least 1 each.
+    n_directions : int
+        Half the number of directions.
+    n_lags : int
+        Lags drawn for each direction; those without pairs are left out.
+    bandwidth : float
+        How far a lag reaches for map cells, in diagonals of a cell as a share of the grid. About 1 for a
+        grid of cubes; an axis of one cell makes the diagonal as long as the grid, and calls for about
+        1 / `nx`.
+    n_threads : int
+        Threads; 0 means all. The result does not depend on it. The Fourier transforms run on as many as
+        `set_fft_n_threads` says, which may change the last digits.
+    seed : int
+        Seed of the lengths.
+    origin : array_like of shape (3,)
+        Low corner of the working grid.
+    rotation : array_like of shape (3,)
+        Azimuth, dip and rake of the working grid, in degrees.
+
+    Returns
+    -------
+    ExperimentalVariogram
+        The lags that have pairs. Every pair counts twice, once from each end.
+
+    Raises
+    ------
+    ValueError
+        If a size is below 1, a count negative, `corners` empty, a coordinate not finite, a value
+        infinite, or `data` of another length than `locations`.
+
+    References
+    ----------
+    Marcotte, D. (1996). Fast variogram computation with FFT. Computers & Geosciences 22, 1175-1186.
+    """
+@typing.overload
+def compute_variogram(cartesian_grid: CartesianGrid, data: numpy.typing.ArrayLike, n_directions: int, n_lags: int, bandwidth: float, n_threads: int = 0, seed: int = 12415, nx: int = 200, ny: int = 200, nz: int = 200) -> ExperimentalVariogram:
+    """
+    Experimental variogram of the cells of a grid, from the variogram map of a working grid.
+
+    The working grid spans the cells' locations, which are their low corners: it is shorter than the
+    grid by a cell along each axis, and the last cells fall outside it. With as many working cells as
+    the grid has, less one along each axis, each cell has its own.
+
+    Parameters
+    ----------
+    cartesian_grid : CartesianGrid
+        The grid.
+    data : sequence of float of length n
+        A value for each cell in the order of ids, NaN where missing.
+    n_directions : int
+        Half the number of directions.
+    n_lags : int
+        Lags drawn for each direction; those without pairs are left out.
+    bandwidth : float
+        How far a lag reaches for map cells, in diagonals of a cell as a share of the grid. About 1 for a
+        grid of cubes; an axis of one cell makes the diagonal as long as the grid, and calls for about
+        1 / `nx`.
+    n_threads : int
+        Threads; 0 means all. The result does not depend on it. The Fourier transforms run on as many as
+        `set_fft_n_threads` says, which may change the last digits.
+    seed : int
+        Seed of the lengths.
+    nx, ny, nz : int
+        Cells of the working grid, at least 1 each.
+
+    Returns
+    -------
+    ExperimentalVariogram
+        The lags that have pairs. Every pair counts twice, once from each end.
+
+    Raises
+    ------
+    ValueError
+        If a size is below 1, a count negative, a value infinite, or `data` not one for each cell.
+
+    Examples
+    --------
+    A field of stripes along y, constant over 4 cells along x:
+
+    >>> import gravelox
+    >>> grid = gravelox.CartesianGrid((33, 33, 1), (33, 33, 1))
+    >>> stripes = [float(grid.ijk(i)[0] // 4 % 2) for i in range(len(grid))]
+    >>> variogram = gravelox.compute_variogram(grid, stripes, 100, 50, 0.03, nx=32, ny=32, nz=1)
+    >>> along, across = (variogram.get_variogram(azimuth, 0)[1] for azimuth in (0, 90))
+    >>> sum(across) / len(across) > 2 * sum(along) / len(along)
+    True
+    """
+@typing.overload
+def compute_variogram(block_model: BlockModel, data: numpy.typing.ArrayLike, n_directions: int, n_lags: int, bandwidth: float, n_threads: int = 0, seed: int = 12415, nx: int = 200, ny: int = 200, nz: int = 200) -> ExperimentalVariogram:
+    """
+    Experimental variogram of the active blocks of a model, from the variogram map of a working grid.
+
+    It is that of the base grid with the other cells missing.
+
+    Parameters
+    ----------
+    block_model : BlockModel
+        The blocks.
+    data : sequence of float of length n
+        A value for each active block in the order of positions, NaN where missing.
+    n_directions : int
+        Half the number of directions.
+    n_lags : int
+        Lags drawn for each direction; those without pairs are left out.
+    bandwidth : float
+        How far a lag reaches for map cells, in diagonals of a cell as a share of the grid. About 1 for a
+        grid of cubes; an axis of one cell makes the diagonal as long as the grid, and calls for about
+        1 / `nx`.
+    n_threads : int
+        Threads; 0 means all. The result does not depend on it. The Fourier transforms run on as many as
+        `set_fft_n_threads` says, which may change the last digits.
+    seed : int
+        Seed of the lengths.
+    nx, ny, nz : int
+        Cells of the working grid, at least 1 each.
+
+    Returns
+    -------
+    ExperimentalVariogram
+        The lags that have pairs. Every pair counts twice, once from each end.
+
+    Raises
+    ------
+    ValueError
+        If a size is below 1, a count negative, a value infinite, or `data` not one for each block.
+    """
 def covariance_computer(covs: list[Covariance]) -> SpatialFunction:
     """
     A covariance model as a function of the lag vector.
@@ -1716,6 +2091,41 @@ def extract_ellipsoid_info(T: numpy.typing.ArrayLike) -> EllipsoidInfo:
     >>> gravelox.extract_ellipsoid_info([[0.5, 0, 0], [0, 0.1, 0], [0, 0, 1]]).r1()
     10.0
     """
+def extreme_points(locations: numpy.typing.ArrayLike, n_rays: int = 600, seed: int = 121315, n_threads: int = 0) -> list[numpy.ndarray[numpy.float64[3, 1]]]:
+    """
+    Outermost locations of a cloud, as a small stand-in for its hull.
+
+    Along each of 2 `n_rays` random directions (`generate_random_sphere`) they are the location that
+    lies farthest back, then the one farthest ahead; each location comes once.
+
+    Parameters
+    ----------
+    locations : array_like of shape (n, 3)
+        The cloud, in metres or another length unit.
+    n_rays : int
+        Half the number of directions; below 1 there are none.
+    seed : int
+        Seed of the directions.
+    n_threads : int
+        Threads; 0 means all. The result does not depend on it.
+
+    Returns
+    -------
+    list of numpy.ndarray of shape (3,)
+        The extreme locations, in the order in which the rays find them.
+
+    Raises
+    ------
+    ValueError
+        If a coordinate is not finite.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> triangle = [(0, 0, 0), (4, 0, 0), (0, 4, 0), (1, 1, 0)]
+    >>> sorted(tuple(map(float, p)) for p in gravelox.extreme_points(triangle))
+    [(0.0, 0.0, 0.0), (0.0, 4.0, 0.0), (4.0, 0.0, 0.0)]
+    """
 def generate_covariances(ellipsoid: Ellipsoid, n_kernels: int, cov_kernel: Kernel, n_covs: int, seed: int, delta_angle: float, min_str_range: float, max_str_range: float, min_sill: float, max_sill: float) -> list[list[Covariance]]:
     """
     Random nested models around an anisotropy, as starting points of a search.
@@ -1758,6 +2168,40 @@ def generate_covariances(ellipsoid: Ellipsoid, n_kernels: int, cov_kernel: Kerne
     >>> models = gravelox.generate_covariances(sphere, 2, shape, 3, 1, 10, 0.5, 1, 0.1, 1)
     >>> [len(model) for model in models]
     [3, 3, 3]
+    """
+def generate_ellipsoids(min_range: float, max_range: float, n_rays: int, n_scales: int, seed: int, tol: float) -> list[Ellipsoid]:
+    """
+    Random ellipsoids of random ranges and rotations, as candidates of a search.
+
+    Each frame of `generate_rotations` carries 2 `n_scales` ellipsoids, whose ranges have the
+    proportions of a random direction and share a random factor.
+
+    Parameters
+    ----------
+    min_range, max_range : float
+        Bounds of the factor, in metres or another length unit: no range is above `max_range`.
+    n_rays : int
+        Half the number of directions of the frames.
+    n_scales : int
+        Half the number of ellipsoids for each frame; below 1 there are none.
+    seed : int
+        Seed of all draws.
+    tol : float
+        Greatest cosine of a pair of directions that makes a frame.
+
+    Returns
+    -------
+    list of Ellipsoid
+        The ellipsoids, shuffled.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> ellipsoids = gravelox.generate_ellipsoids(10.0, 50.0, 10, 4, 1, 0.05)
+    >>> len(ellipsoids) == 8 * len(gravelox.generate_rotations(10, 1, 0.05))
+    True
+    >>> max(e.info().r1() for e in ellipsoids) < 50.1
+    True
     """
 def generate_random_semisphere(size: int, seed: int = 0) -> list[numpy.ndarray[numpy.float64[3, 1]]]:
     """
@@ -1813,6 +2257,36 @@ def generate_random_sphere(size: int, seed: int = 0) -> list[numpy.ndarray[numpy
     >>> len(gravelox.generate_random_sphere(5, seed=1))
     10
     """
+def generate_rotations(n_rays: int, seed: int, tol: float) -> list[numpy.ndarray[numpy.float64[3, 3]]]:
+    """
+    Random frames from pairs of random directions that are nearly at right angles.
+
+    For each pair of 2 `n_rays` directions (`generate_random_sphere`) whose cosine is below `tol` in
+    size there is a matrix: its rows are the first direction, what the second has at right angles to it,
+    and their cross product. The second row is not scaled to length 1 again, so the matrix is a rotation
+    only up to about `tol` squared.
+
+    Parameters
+    ----------
+    n_rays : int
+        Half the number of directions; below 1 there are none.
+    seed : int
+        Seed of the directions and of the shuffle.
+    tol : float
+        Greatest cosine of a pair; 0 gives an empty list.
+
+    Returns
+    -------
+    list of numpy.ndarray of shape (3, 3)
+        The frames, shuffled.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> frames = gravelox.generate_rotations(20, 1, 0.01)
+    >>> max(float(abs(m @ m.T - [[1, 0, 0], [0, 1, 0], [0, 0, 1]]).max()) for m in frames) < 1e-3
+    True
+    """
 def moving_window_estimation(target_locs: numpy.typing.ArrayLike, nei: Neighborhood, data_locs: numpy.typing.ArrayLike, data: numpy.typing.ArrayLike, covs: list[Covariance], max_neighbors: int, max_radius: float = -1.0, max_neighbors_octant: int = -1, dhids: numpy.typing.ArrayLike = [], max_neis_by_dhid: int = -1, n_threads: int = 0) -> list[float]:
     """
     A mean of the neighbours, weighted by a covariance model as a smoothing kernel.
@@ -1864,6 +2338,56 @@ def moving_window_estimation(target_locs: numpy.typing.ArrayLike, nei: Neighborh
     >>> gravelox.moving_window_estimation([(5, 0, 0)], hood, locations, [1, 3], covs, 2)
     [2.0]
     """
+def optimize_rotation(locations: numpy.typing.ArrayLike, sample_size: int = 30000, n_iterations: int = 20000, n_threads: int = 0, seed: int = 12356, use_fixed_samples: bool = True, n_rays: int = 600) -> tuple[BoundingBox, Ellipsoid]:
+    """
+    Find the rotation that gives a cloud of points the tightest box, by random search.
+
+    The cost of a rotation is the sum of log(length + 1) over the three sides of the box. Candidates
+    are the identity and random rotations of azimuth 0 to 360, dip -90 to 0 and rake 0 to 180 degrees.
+    Only the extreme points of the cloud count (`extreme_points`, with the same seed).
+
+    Parameters
+    ----------
+    locations : array_like of shape (n, 3)
+        The cloud, in metres or another length unit.
+    sample_size : int
+        How many of the extreme points the cost is taken on; all of them where they are not more.
+    n_iterations : int
+        Number of candidates, the identity included.
+    n_threads : int
+        Threads; 0 means all. Each has candidates of its own, so the result repeats for the same number
+        of threads only.
+    seed : int
+        Seed of the search.
+    use_fixed_samples : bool
+        Whether every candidate is tried on the same points; otherwise each draws its own.
+    n_rays : int
+        The extreme points are those along this many random rays, and as many to the other side.
+
+    Returns
+    -------
+    box : BoundingBox
+        The box of all extreme points in the rotated frame.
+    rotation : Ellipsoid
+        The rotation, as an ellipsoid of ranges 1: `forward` turns a location into the frame.
+
+    Raises
+    ------
+    ValueError
+        If `locations` is empty or not finite, `n_rays` below 1, or another count negative.
+
+    Examples
+    --------
+    A flat slab that dips by 30 degrees towards the east:
+
+    >>> import gravelox
+    >>> import numpy as np
+    >>> slab = np.random.RandomState(1).uniform(-1, 1, (500, 3)) * [10, 10, 1]
+    >>> tilt = gravelox.Rotation(90, -30, 0)
+    >>> box, rotation = gravelox.optimize_rotation([tilt.backward(p) for p in slab], n_threads=1)
+    >>> [round(float(side)) for side in sorted(box.length())]
+    [2, 21, 21]
+    """
 def orthogonolize_axes(T: numpy.typing.ArrayLike, sort: bool = True) -> numpy.ndarray[numpy.float64[3, 3]]:
     """
     Make the rows of a matrix orthogonal, without scaling them to unit length (Gram-Schmidt).
@@ -1895,6 +2419,63 @@ def set_fft_n_threads(n_threads: int = 0) -> None:
     n_threads : int
         Threads, resolved by `check_n_threads`. After import it is the full hardware count.
     """
+def smooth_variogram(vario: ExperimentalVariogram, n_lags: int, max_n_neis: int, max_r: float, bandwidth: float, power_a: float, max_weight: float, sampling_size: int, n_threads: int = 0, seed: int = 123151) -> ExperimentalVariogram:
+    """
+    Resample a noisy variogram at new lags along the same directions.
+
+    Each new lag is a mean of old lags near it, weighted by pair count and by distance^-`power_a`. The
+    new lengths are half-normal: |z| times the direction's greatest lag, plus 0.02 `max_r`. The
+    interpreter lock is released.
+
+    Parameters
+    ----------
+    vario : ExperimentalVariogram
+        The variogram to smooth.
+    n_lags : int
+        New lags for each direction; below 1 as many as the direction has. Those left without pairs are
+        dropped.
+    max_n_neis : int
+        Old lags that count: this many nearest; below 1 all within `max_r`.
+    max_r : float
+        Greatest distance of an old lag, in length units.
+    bandwidth : float
+        Greatest distance of an old lag from the line through the new one along its direction; may be
+        infinite.
+    power_a : float
+        Exponent of the distance.
+    max_weight : float
+        Share of old lags that lie on the new one (nearer than 1e-30), where there are others too.
+    sampling_size : int
+        Words taken from the engine before the lengths are drawn: another number gives other lags.
+    n_threads : int
+        Threads; 0 means all. The result does not depend on it.
+    seed : int
+        Seed of the lengths.
+
+    Returns
+    -------
+    ExperimentalVariogram
+        The new lags with pair counts above 0 (means of the old counts, cut to whole numbers), and the
+        directions of `vario`.
+
+    Raises
+    ------
+    RuntimeError
+        "No lags found" if all new lags stay empty, "No lags..." if there are none to fill.
+    ValueError
+        If `vario` has no lags, `sampling_size` is negative, or a number is not finite.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> lags = [(float(i), 0, 0) for i in range(1, 21)]
+    >>> noisy = [i / 20 + 0.2 * (-1) ** i for i in range(1, 21)]
+    >>> variogram = gravelox.ExperimentalVariogram(lags, noisy, [50] * 20, [0] * 20, [(1, 0, 0)])
+    >>> smooth = gravelox.smooth_variogram(variogram, 30, 0, 4.0, 1.0, 0.5, 0.5, 10)
+    >>> residuals = [value - lag[0] / 20 for lag, value in zip(smooth.lags(), smooth.variogram())]
+    >>> bool(max(map(abs, residuals)) < 0.2)
+    True
+    """
 def sort_matrix3d(T: numpy.typing.ArrayLike, orthogonalize: bool = True) -> numpy.ndarray[numpy.float64[3, 3]]:
     """
     Sort the rows of a matrix by ascending length, hence by descending range.
@@ -1917,4 +2498,36 @@ def sort_matrix3d(T: numpy.typing.ArrayLike, orthogonalize: bool = True) -> nump
     >>> import gravelox
     >>> gravelox.sort_matrix3d([[2, 0, 0], [0, 1, 0], [0, 0, 3]])[0].tolist()
     [0.0, 1.0, 0.0]
+    """
+def variogram_computer(cov: list[Covariance], data_var: float) -> SpatialFunction:
+    """
+    Variogram of a covariance model, rescaled to the variance of the data.
+
+    The value at a lag h is (1 - C(h) / C(0)) `data_var`, so the sills of the model tell proportions
+    only.
+
+    Parameters
+    ----------
+    cov : list of Covariance
+        The covariance model.
+    data_var : float
+        Variance of the data, in data units squared: the sill of the variogram.
+
+    Returns
+    -------
+    SpatialFunction
+        To be called with lag vectors.
+
+    Raises
+    ------
+    ValueError
+        If the model is empty or its sills add up to 0.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> model = [gravelox.Covariance.spherical(1.0, gravelox.Ellipsoid(10, 10, 10, 90, 0, 0))]
+    >>> variogram = gravelox.variogram_computer(model, 4.0)
+    >>> variogram((0, 0, 0)), variogram((5, 0, 0)), variogram((20, 0, 0))
+    (0.0, 2.75, 4.0)
     """

@@ -1,0 +1,304 @@
+// SPDX-License-Identifier: MIT
+#include "variography/grid_variogram.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <string>
+#include <utility>
+
+#include "common/checks.hpp"
+#include "common/integer.hpp"
+#include "common/parallel_for.hpp"
+#include "common/random.hpp"
+#include "spatial/bounding_box.hpp"
+#include "spatial/neighborhood.hpp"
+#include "spatial/sphere_sampling.hpp"
+#include "variography/variogram_map.hpp"
+#include "variography/variography_detail.hpp"
+
+namespace gravelox {
+
+namespace {
+
+constexpr double missing = std::numeric_limits<double>::quiet_NaN();
+
+void check_counts(int n_directions, int n_lags) {
+  check_at_least("n_directions", n_directions, 0);
+  check_at_least("n_lags", n_lags, 0);
+  const auto n = 2 * static_cast<long long>(n_directions);
+  if (n > 0 && n_lags > std::numeric_limits<int>::max() / n) {
+    refuse("n_lags", "at most 2147483647 lags in all", std::to_string(n_lags));
+  }
+}
+
+void check_data(const location_list& locations, const std::vector<double>& data) {
+  check_same_size("data", data.size(), locations.size(), "location");
+  check_finite("locations", locations);
+  for (const double value : data) {
+    if (std::isinf(value)) refuse("data", "numbers, or NaN where missing", "an infinite value");
+  }
+}
+
+CartesianGrid working_grid(const location_list& corners, const cell_triple& counts,
+                           const location& origin, const location& rotation, int n_threads) {
+  const Ellipsoid frame = Rotation(rotation[0], rotation[1], rotation[2]);
+  return {extent(frame.forward(corners, n_threads)), counts, origin, rotation};
+}
+
+/// The id of the cell that a location falls in, -1 outside the grid. A location less than a cell
+/// below the grid counts as in its first cell.
+int cell_of(const location& point, const CartesianGrid& grid) {
+  const auto [nx, ny, nz] = grid.number_of_cells();
+  const location q = grid.transformation().forward(point - grid.origin());
+  const double i = std::trunc(q.x() / (1.0 / nx));
+  const double j = std::trunc(q.y() / (1.0 / ny));
+  const double k = std::trunc(q.z() / (1.0 / nz));
+  if (!(i >= 0.0 && i < nx && j >= 0.0 && j < ny && k >= 0.0 && k < nz)) return -1;
+  return grid.index(static_cast<int>(i), static_cast<int>(j), static_cast<int>(k));
+}
+
+/// A value for each cell of the grid. Values are written in the order of the list, so that the last
+/// one in a cell stays whatever the number of threads.
+std::vector<double> scatter(const location_list& locations, const std::vector<double>& data,
+                            const CartesianGrid& grid, int n_threads) {
+  std::vector<int> cells(locations.size());
+  parallel_for(locations.size(), n_threads, [&](std::size_t i, int /*thread_number*/) {
+    cells[i] = cell_of(locations[i], grid);
+  });
+  std::vector<double> values(grid.size(), missing);
+  for (std::size_t i = 0; i < cells.size(); ++i) {
+    if (cells[i] >= 0) values[to_size(cells[i])] = data[i];
+  }
+  return values;
+}
+
+/// Random lags in the order of directions, those of a direction by length.
+struct lag_cloud {
+  location_list directions;
+  std::vector<int> direction_ids;
+  location_list lags;
+};
+
+lag_cloud draw_lags(const CartesianGrid& grid, int n_directions, int n_lags, std::int64_t seed) {
+  lag_cloud cloud;
+  cloud.directions = generate_random_sphere(n_directions, 0);
+  random_engine engine = create_engine(seed);
+  normal_distribution normal;
+  std::vector<double> lengths(to_size(n_lags));
+  for (std::size_t id = 0; id < cloud.directions.size(); ++id) {
+    for (double& length : lengths) {
+      do length = std::abs(normal(engine));
+      while (length < 1e-10);
+    }
+    std::sort(lengths.begin(), lengths.end());
+    for (const double length : lengths) {
+      cloud.lags.push_back(grid.transformation().backward(length * cloud.directions[id]));
+      cloud.direction_ids.push_back(to_int(id));
+    }
+  }
+  return cloud;
+}
+
+/// The semivariance of a lag so far and the pairs that it rests on.
+struct lag_mean {
+  double value = 0.0;
+  double weight = 0.0;
+
+  void add(double map_value, double n_pairs) {
+    const double total = weight + n_pairs;
+    value = weight / total * value + n_pairs / total * map_value;
+    weight = total;
+  }
+};
+
+/// The cells of a map that have pairs and a lag within reach of them, in the order of the map.
+///
+/// Most cells have none: marking them from the lags' side is far cheaper than asking a search about
+/// every cell. A cell too many does no harm, and so the reach is taken a little wider.
+class map_cells {
+ public:
+  struct cell {
+    int i, j, k;
+  };
+
+  map_cells(const variogram_map& map, const cell_triple& counts)
+      : map_(map),
+        counts_(counts),
+        half_(map.reach()),
+        n_rows_(2 * to_size(std::get<1>(half_)) + 1),
+        n_columns_(2 * to_size(std::get<2>(half_)) + 1),
+        is_near_((2 * to_size(std::get<0>(half_)) + 1) * n_rows_ * n_columns_, 0) {}
+
+  /// The normalised coordinates of a cell.
+  location position(const cell& at) const {
+    const auto [nx, ny, nz] = counts_;
+    return {at.i / static_cast<double>(nx), at.j / static_cast<double>(ny),
+            at.k / static_cast<double>(nz)};
+  }
+
+  void mark_around(const location& point, double radius) {
+    const double reach = std::abs(radius) * (1.0 + 1e-9) + 1e-12;
+    const auto [nx, ny, nz] = counts_;
+    const auto [half_x, half_y, half_z] = half_;
+    const span along_x = cells_within(point.x(), reach, nx, half_x);
+    for (int i = along_x.first; i <= along_x.last; ++i) {
+      const double dx = point.x() - i / static_cast<double>(nx);
+      const double reach_y = std::sqrt(std::max(reach * reach - dx * dx, 0.0));
+      const span along_y = cells_within(point.y(), reach_y, ny, half_y);
+      for (int j = along_y.first; j <= along_y.last; ++j) {
+        const double dy = point.y() - j / static_cast<double>(ny);
+        const double reach_z = std::sqrt(std::max(reach_y * reach_y - dy * dy, 0.0));
+        const span along_z = cells_within(point.z(), reach_z, nz, half_z);
+        if (along_z.first > along_z.last) continue;
+        char* row = &is_near_[row_of(i, j)];
+        std::fill(row + along_z.first + half_z, row + along_z.last + half_z + 1, char{1});
+      }
+    }
+  }
+
+  std::vector<cell> marked() const {
+    const auto [half_x, half_y, half_z] = half_;
+    std::vector<cell> cells;
+    for (int i = -half_x; i <= half_x; ++i) {
+      for (int j = -half_y; j <= half_y; ++j) {
+        const char* row = &is_near_[row_of(i, j)];
+        for (int k = -half_z; k <= half_z; ++k) {
+          if (row[k + half_z] != 0 && map_.n_pairs(i, j, k) > 0.0) cells.push_back({i, j, k});
+        }
+      }
+    }
+    return cells;
+  }
+
+ private:
+  struct span {
+    int first, last;
+  };
+
+  /// The cells of an axis within a distance.
+  static span cells_within(double coordinate, double distance, int count, int half) {
+    const double first = std::max(std::ceil((coordinate - distance) * count), -1.0 * half);
+    const double last = std::min(std::floor((coordinate + distance) * count), 1.0 * half);
+    if (!(first <= last)) return {1, 0};
+    return {static_cast<int>(first), static_cast<int>(last)};
+  }
+
+  std::size_t row_of(int i, int j) const {
+    const auto [half_x, half_y, half_z] = half_;
+    return (to_size(i + half_x) * n_rows_ + to_size(j + half_y)) * n_columns_;
+  }
+
+  const variogram_map& map_;
+  cell_triple counts_;
+  cell_triple half_;
+  std::size_t n_rows_;
+  std::size_t n_columns_;
+  std::vector<char> is_near_;
+};
+
+/// The mean of the map around each lag.
+///
+/// A running mean depends on the order of its terms: neighbours are gathered in parallel for a
+/// stretch of cells at a time, and folded in the order of the cells.
+std::vector<lag_mean> fold(const variogram_map& map, const CartesianGrid& grid,
+                           const location_list& lags, double bandwidth, int n_threads) {
+  constexpr std::size_t stretch = 4096;
+  const cell_triple& counts = grid.number_of_cells();
+  const auto [nx, ny, nz] = counts;
+  const location cell_size(1.0 / nx, 1.0 / ny, 1.0 / nz);
+  const double radius = bandwidth * cell_size.norm();
+
+  const location_list normalised_lags = grid.transformation().forward(lags, n_threads);
+  const Neighborhood neighborhood(normalised_lags);
+  map_cells cells(map, counts);
+  for (const location& lag : normalised_lags) cells.mark_around(lag, radius);
+  const std::vector<map_cells::cell> near_cells = cells.marked();
+
+  std::vector<lag_mean> means(lags.size());
+  std::vector<neighbor_buffer> buffers(n_thread_slots(n_threads));
+  std::vector<std::vector<std::size_t>> found(std::min(stretch, near_cells.size()));
+  for (std::size_t first = 0; first < near_cells.size(); first += stretch) {
+    const std::size_t n = std::min(stretch, near_cells.size() - first);
+    parallel_for(n, n_threads, [&](std::size_t c, int thread_number) {
+      neighbor_buffer& buffer = buffers[to_size(thread_number)];
+      neighborhood.find_neighbors(cells.position(near_cells[first + c]), radius, buffer);
+      found[c] = buffer.ids;
+    });
+    for (std::size_t c = 0; c < n; ++c) {
+      const auto [i, j, k] = near_cells[first + c];
+      for (const std::size_t id : found[c]) means[id].add(map.value(i, j, k), map.n_pairs(i, j, k));
+    }
+  }
+  return means;
+}
+
+/// The lags that rest on at least one pair.
+experimental_variogram with_pairs(lag_cloud cloud, const std::vector<lag_mean>& means) {
+  location_list lags;
+  std::vector<double> variogram;
+  std::vector<int> npairs;
+  std::vector<int> direction_ids;
+  for (std::size_t i = 0; i < means.size(); ++i) {
+    if (!(means[i].weight >= 1.0)) continue;
+    lags.push_back(cloud.lags[i]);
+    variogram.push_back(means[i].value);
+    npairs.push_back(detail::to_pair_count(means[i].weight));
+    direction_ids.push_back(cloud.direction_ids[i]);
+  }
+  return {std::move(lags), std::move(variogram), std::move(npairs), std::move(direction_ids),
+          std::move(cloud.directions)};
+}
+
+}  // namespace
+
+experimental_variogram compute_variogram(const location_list& corners,
+                                         const location_list& locations,
+                                         const std::vector<double>& data, int nx, int ny, int nz,
+                                         int n_directions, int n_lags, double bandwidth,
+                                         int n_threads, std::int64_t seed, const location& origin,
+                                         const location& rotation) {
+  check_at_least("nx", nx, 1);
+  check_at_least("ny", ny, 1);
+  check_at_least("nz", nz, 1);
+  check_counts(n_directions, n_lags);
+  check_not_empty("corners", corners.size());
+  check_finite("corners", corners);
+  check_finite("bandwidth", bandwidth);
+  check_finite("origin", origin);
+  check_finite("rotation", rotation);
+  check_data(locations, data);
+
+  const CartesianGrid grid = working_grid(corners, {nx, ny, nz}, origin, rotation, n_threads);
+  const variogram_map map =
+      compute_variogram_map(scatter(locations, data, grid, n_threads), grid.number_of_cells(),
+                            {nx / 2, ny / 2, nz / 2}, n_threads);
+  lag_cloud cloud = draw_lags(grid, n_directions, n_lags, seed);
+  const std::vector<lag_mean> means = fold(map, grid, cloud.lags, bandwidth, n_threads);
+  return with_pairs(std::move(cloud), means);
+}
+
+experimental_variogram compute_variogram(const CartesianGrid& cartesian_grid,
+                                         const std::vector<double>& data, int n_directions,
+                                         int n_lags, double bandwidth, int n_threads,
+                                         std::int64_t seed, int nx, int ny, int nz) {
+  check_same_size("data", data.size(), cartesian_grid.size(), "cell of the grid");
+  return compute_variogram(cartesian_grid.corners(), cartesian_grid.locations(), data, nx, ny, nz,
+                           n_directions, n_lags, bandwidth, n_threads, seed,
+                           cartesian_grid.origin(), cartesian_grid.rotation());
+}
+
+experimental_variogram compute_variogram(const BlockModel& block_model,
+                                         const std::vector<double>& data, int n_directions,
+                                         int n_lags, double bandwidth, int n_threads,
+                                         std::int64_t seed, int nx, int ny, int nz) {
+  check_same_size("data", data.size(), block_model.size(), "active cell");
+  std::vector<double> full(block_model.full_size(), missing);
+  for (std::size_t i = 0; i < data.size(); ++i) {
+    full[to_size(block_model.active_ids()[i])] = data[i];
+  }
+  return compute_variogram(block_model.base_grid(), full, n_directions, n_lags, bandwidth,
+                           n_threads, seed, nx, ny, nz);
+}
+
+}  // namespace gravelox
