@@ -1,20 +1,26 @@
 // SPDX-License-Identifier: MIT
-// Kernels and models that scripts do not reach: text, tables, and models with derivatives.
+// What scripts do not reach of kernels, models and maps: text, tables, derivatives, every lag.
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
+#include <map>
 #include <sstream>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "common/integer.hpp"
 #include "common/number.hpp"
+#include "common/random.hpp"
 #include "variography/cov_computer.hpp"
 #include "variography/covariance.hpp"
 #include "variography/differentiable_covariance.hpp"
 #include "variography/kernel_table.hpp"
+#include "variography/variogram_map.hpp"
 
 namespace gravelox {
 namespace {
@@ -114,6 +120,40 @@ TEST(NestedCovariance, AddsStructuresAndANuggetAtShortLags) {
   EXPECT_NEAR(nested(location(0.99e-10, 0, 0)) - nested(location(1.01e-10, 0, 0)), 0.5, 1e-8);
   EXPECT_NEAR(nested(lag), 2 * structure(type::spherical)(lag), 1e-12);
   EXPECT_EQ(create_nested_cov<jet>({}, jet(0.5, 0))((1e-11 * lag).cast<jet>()).v[0], 1.0);
+}
+
+void check_map(const std::vector<double>& values, const cell_triple& counts, int part) {
+  const auto [nx, ny, nz] = counts;
+  const cell_triple reach((nx - 1) / part, (ny - 1) / part, (nz - 1) / part);
+  const variogram_map map = compute_variogram_map(values, counts, reach, 2);
+  std::map<cell_triple, std::pair<double, int>> pairs;
+  for (int a = 0; a < nx * ny * nz; ++a) {
+    for (int b = 0; b < nx * ny * nz; ++b) {
+      const cell_triple h(a / nz / ny - b / nz / ny, a / nz % ny - b / nz % ny, a % nz - b % nz);
+      const double step = values[to_size(a)] - values[to_size(b)];
+      pairs[h].first += std::isnan(step) ? 0.0 : 0.5 * step * step;
+      pairs[h].second += std::isnan(step) ? 0 : 1;
+    }
+  }
+  for (const auto& [h, expected] : pairs) {
+    const auto [i, j, k] = h;
+    if (cell_triple(i * part / nx, j * part / ny, k * part / nz) != cell_triple(0, 0, 0)) continue;
+    EXPECT_EQ(map.n_pairs(i, j, k), expected.second) << i << " " << j << " " << k;
+    EXPECT_NEAR(map.value(i, j, k), expected.first / std::max(expected.second, 1), 1e-9);
+  }
+}
+
+TEST(VariogramMap, IsThatOfAllPairsOfCells) {
+  random_engine engine = create_engine(7);
+  for (const auto& [nx, ny, nz] : {cell_triple(5, 4, 3), {1, 7, 2}, {13, 1, 11}, {1, 1, 1}}) {
+    for (const double missing : {0.0, 0.4, 1.0}) {
+      std::vector<double> values(to_size(nx * ny * nz));
+      for (double& value : values) {
+        value = uniform01(engine) < missing ? std::nan("") : 1e6 + uniform01(engine);
+      }
+      for (const int part : {1, 2}) check_map(values, {nx, ny, nz}, part);
+    }
+  }
 }
 
 }  // namespace

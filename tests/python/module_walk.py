@@ -1,7 +1,9 @@
 """The module's interface as its docstrings tell it."""
 
+import functools
 import re
 from collections import namedtuple
+from types import ModuleType
 
 import gravelox
 
@@ -23,17 +25,23 @@ def overloads(name, doc):
         yield Overload(name, is_method, arguments(match[2]), text)
 
 
-def members():
+def members(space=gravelox, path=""):
     """(qualified name, docstring) of every class and callable, in the order of registration."""
-    for name, value in vars(gravelox).items():
-        if not name.startswith("__"):
-            yield name, value.__doc__
+    for name, value in vars(space).items():
+        if isinstance(value, ModuleType):
+            yield from members(value, f"{path}{name}.")
+        elif not name.startswith("__"):
+            yield path + name, value.__doc__
             for member, made in vars(value).items() if isinstance(value, type) else ():
                 doc = getattr(made, "__func__", made).__doc__ or ""
                 if not isinstance(made, str) and SIGNATURE.search(doc):
-                    yield f"{name}.{member}", doc
+                    yield f"{path}{name}.{member}", doc
 
 
-CLASSES = {name: value for name, value in vars(gravelox).items() if isinstance(value, type)}
+def look_up(name):
+    return functools.reduce(getattr, name.split("."), gravelox)
+
+
+CLASSES = [name for name, _ in members() if isinstance(look_up(name), type)]
 FUNCTIONS = {name: list(overloads(name, doc)) for name, doc in members() if name not in CLASSES}
 OVERLOADS = [overload for found in FUNCTIONS.values() for overload in found]

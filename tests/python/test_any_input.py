@@ -9,7 +9,7 @@ import numpy as np
 import pytest
 from hypothesis import given
 from hypothesis import strategies as st
-from module_walk import CLASSES, FUNCTIONS
+from module_walk import FUNCTIONS, look_up
 
 ODD = [1e-31, 1e-300, 1e300, math.nan, math.inf, -math.inf]
 FLOATS = st.sampled_from([0.0, 1.0, -1.0, 0.5, 3.0] * 4 + ODD)
@@ -35,12 +35,15 @@ OBJECTS += [gravelox.DynamicNeighborhood(), gravelox.DynamicNeighborhood(FOUR)]
 OBJECTS += [gravelox.covariance_computer(covs) for covs in ([], COVS)]
 OBJECTS += [GRID, *[gravelox.BlockModel(GRID, [active] * 4) for active in (False, True)]]
 OBJECTS += [gravelox.BoundingBox([]), gravelox.BoundingBox(FOUR), gravelox.Kernel.gaussian]
+OBJECTS += [gravelox.ExperimentalVariogram(FOUR[:n], *[[1, 0, 2, 1][:n]] * 3, FOUR) for n in (0, 4)]
+OBJECTS += [gravelox.fft.SpectralData1D(FOUR[1], FOUR[2])]
 OBJECTS += [gravelox.IDW(0.5, 0, 3, 2, 1, [1, 1, 2, 2], 1), gravelox.OrdinaryKriging(COVS[:1], 4)]
 
 
 def values_of(name, kind):
     """Arguments of a kind, as its signature writes it; what says how much to make stays small."""
-    if kind == "int" and (name.startswith("n_") or name.endswith(("n_samples_by_dh", "size"))):
+    ends = ("n_samples_by_dh", "size", "nx", "ny", "nz")
+    if kind == "int" and (name.startswith("n_") or name.endswith(ends)):
         return SMALL
     if kind in SIMPLE:
         return SIMPLE[kind]
@@ -58,7 +61,7 @@ def test_every_call_ends(name, data):
     if chosen and data.draw(st.integers(0, 9)) == 9:
         chosen[-1] = st.sampled_from([None, "x", [], [None]])
     owner, _, member = name.rpartition(".")
-    call = CLASSES[owner] if member == "__init__" else getattr(CLASSES.get(owner, gravelox), member)
+    call = look_up(owner if member == "__init__" else name)
     if overload.is_method and member != "__init__":
         chosen.insert(0, values_of("self", owner))
     args = [data.draw(strategy) for strategy in chosen]

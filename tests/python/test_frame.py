@@ -18,15 +18,20 @@ NAMES = """
     set_fft_n_threads check_n_threads SpatialFunction EllipsoidInfo Ellipsoid Rotation
     generate_random_semisphere generate_random_sphere extract_ellipsoid_info sort_matrix3d
     orthogonolize_axes Direction Neighborhood DynamicNeighborhood
+    optimize_rotation extreme_points generate_rotations generate_ellipsoids
     Kernel Covariance covariance_computer generate_covariances
     CartesianGrid BlockModel BoundingBox create_random_drillholes
     Estimator IDW SimpleKriging OrdinaryKriging
     compute_simple_kriging compute_ordinary_kriging moving_window_estimation
+    ExperimentalVariogram variogram_computer compute_variogram compute_exp_variogram
+    smooth_variogram fft fft.SpectralData1D fft.project_to_line fft.project_back_to_source
 """
 
 
 def test_names_stand_in_the_order_of_registration():
-    assert [name for name in vars(gravelox) if not name.startswith("__")] == NAMES.split()
+    spaces = (("", gravelox), ("fft.", gravelox.fft))
+    names = [path + name for path, space in spaces for name in vars(space) if name[:2] != "__"]
+    assert names == NAMES.split()
 
 
 def test_fft_threads_are_set():
@@ -59,15 +64,19 @@ def test_interpreter_lock(rng):
     locs, targets = rng.uniform(0, 100, (400, 3)), rng.uniform(0, 100, (15_000, 3))
     data, hood, sphere = locs[:, 0], gravelox.Neighborhood(locs), gravelox.Rotation(0, 0)
     covs, limit, one = [gravelox.Covariance.spherical(1e-4, sphere)], 16, {"n_threads": 1}
+    vario = gravelox.compute_exp_variogram(locs, data, bandwidth=0.2, n_directions=20)
     for call in (
         lambda: gravelox.compute_simple_kriging(targets, locs, data, covs, 0.0, hood, limit, **one),
         lambda: gravelox.compute_ordinary_kriging(targets, locs, data, covs, hood, limit, **one),
+        lambda: gravelox.compute_exp_variogram(locs, data, bandwidth=0.2, **one),
+        lambda: gravelox.smooth_variogram(vario, 100, 0, 99, 99, 1, 1, 0, **one),
     ):
         assert runs_beside(call)
     for call in (
         lambda: gravelox.OrdinaryKriging(covs, limit)(targets, hood, locs, data, **one),
         lambda: gravelox.moving_window_estimation(targets, hood, locs, data, covs, limit, **one),
         lambda: sphere.forward(np.tile(targets, (20, 1)), **one),
+        lambda: gravelox.compute_variogram(locs, locs, data, 40, 40, 40, 9, 9, 1, **one),
     ):
         assert not runs_beside(call)
 

@@ -7,8 +7,9 @@ import gravelox
 import numpy as np
 import pytest
 from module_walk import OVERLOADS
+from oracles.variography import rows_of
 
-DATA = np.random.default_rng(99)
+DATA, Vario = np.random.default_rng(99), gravelox.ExperimentalVariogram
 SAMPLES, TARGETS = DATA.uniform(0, 30, (300, 3)), DATA.uniform(0, 30, (400, 3))
 VALUES, HOLES = DATA.lognormal(0, 1, 300), DATA.integers(0, 20, 300)
 METRIC = gravelox.Ellipsoid(20, 10, 5, 30, 20, 10)
@@ -39,11 +40,27 @@ def estimate(name, n_threads=0, limits=None, **changes):
 PARALLEL = {name: partial(estimate, name) for name in ESTIMATIONS}
 PARALLEL["Ellipsoid.forward"] = partial(METRIC.forward, SAMPLES)
 PARALLEL["Ellipsoid.backward"] = partial(METRIC.backward, SAMPLES)
+PARALLEL["extreme_points"] = partial(gravelox.extreme_points, SAMPLES, 50)
+VARIO = gravelox.compute_exp_variogram(SAMPLES, VALUES, bandwidth=0.3, n_directions=5)
+LAID = {"corners": TARGETS, "locations": SAMPLES, "data": VALUES, "nx": 9, "ny": 8, "nz": 7}
+VARIOGRAMS = {
+    "compute_variogram": {**LAID, "n_directions": 5, "n_lags": 20, "bandwidth": 1},
+    "compute_exp_variogram": {"data_locs": SAMPLES, "data_values": VALUES, "n_directions": 30},
+}
+
+
+for name, given in VARIOGRAMS.items():
+    PARALLEL[name] = partial(getattr(gravelox, name), **given)
+PARALLEL["smooth_variogram"] = partial(gravelox.smooth_variogram, VARIO, 9, 5, 9, 5, 1, 0.5, 3)
+
+
+def numbers(result):
+    return rows_of(result) if isinstance(result, Vario) else np.array(result)
 
 
 @pytest.mark.parametrize("name", PARALLEL)
 def test_results_do_not_depend_on_the_threads(name):
-    one, three = (np.array(PARALLEL[name](n_threads=n)) for n in (1, 3))
+    one, three = (numbers(PARALLEL[name](n_threads=n)) for n in (1, 3))
     assert one.tobytes() == three.tobytes()
     assert len(np.unique(one)) > len(one) // 2
 
@@ -51,7 +68,9 @@ def test_results_do_not_depend_on_the_threads(name):
 def test_the_table_of_threads_is_whole():
     # IDW and its like stand for Estimator.__call__.
     parallel = {o.name for o in OVERLOADS if ("n_threads", "int") in o.arguments}
-    assert parallel <= {*PARALLEL, "Estimator.__call__", "check_n_threads", "set_fft_n_threads"}
+    known = {*PARALLEL, "Estimator.__call__", "check_n_threads", "set_fft_n_threads"}
+    # Each thread of optimize_rotation draws candidates from an engine of its own.
+    assert parallel - known == {"optimize_rotation"}
 
 
 @pytest.mark.parametrize("name", ESTIMATIONS)
@@ -115,8 +134,49 @@ REFUSED = [
     ("mask: expected 24 .*23", gravelox.BlockModel, (GRID, [True] * 23)),
     ("n_kernels", gravelox.generate_covariances, (METRIC, -1, KERNEL, *[1] * 7)),
 ]
+optimize_rotation = gravelox.optimize_rotation
+SPECTRUM, project = gravelox.fft.SpectralData1D([1, 2], [3, 4]), gravelox.fft.project_to_line
+REFUSED += [
+    ("npairs", Vario, ([NULL], [1], [], [0], [NULL])),
+    ("direction_id", Vario, ([NULL], [1], [1], [1], [NULL])),
+    ("direction_id", Vario, ([NULL], [1], [1], [-1], [NULL])),
+    ("direction_id", VARIO.get_variogram_by_direction_id, (10,)),
+    ("direction_id", VARIO.get_variogram_by_direction_id, (-1,)),
+    ("vario", gravelox.smooth_variogram, (Vario(*[[]] * 5), 9, 5, 9, 9, 1, 1, 1)),
+    ("cov", gravelox.variogram_computer, ([], 1)),
+    ("locations", gravelox.extreme_points, ([NAN],)),
+    ("locations", optimize_rotation, ([INF],)),
+    ("locations", optimize_rotation, ([],)),
+    ("n_rays", optimize_rotation, (SAMPLES, 9, 9, 1, 1, True, 0)),
+    ("magnitude", gravelox.fft.SpectralData1D, ([1], [1, 2])),
+    ("frequencies", SPECTRUM.filter_frequencies, ([2],)),
+    ("frequencies", SPECTRUM.filter_frequencies, ([0, -1],)),
+    ("window_size", SPECTRUM.smooth_frequencies, (-1,)),
+    ("window_size", project, ([0, 1], [1, 2], 1, 1, 3, -1)),
+    ("data", project, ([0, 1], [1], 1, 1, 3, 1)),
+    ("source_data", gravelox.fft.project_back_to_source, ([1], [0, 1], [1], 1, 1, 1)),
+]
+CHANGES = [
+    ("compute_variogram", "corners", []),
+    ("compute_variogram", "corners locations", [NAN] * 300),
+    ("compute_variogram", "data", VALUES[1:], [math.inf] * 300),
+    ("compute_variogram", "n_directions n_lags nx ny nz", -1),
+    ("compute_exp_variogram", "data_locs", [INF] * 300),
+    ("compute_exp_variogram", "data_values", VALUES[1:], [math.nan] * 300),
+    ("compute_exp_variogram", "n_directions n_lags n_centers", -1),
+    ("compute_exp_variogram", "bandwidth", 0, math.nan),
+    ("compute_exp_variogram", "tol", 1, 2, math.nan),
+]
+REFUSED += [
+    (f"{name}[ :]", partial(getattr(gravelox, call), **{**VARIOGRAMS[call], name: value}), ())
+    for call, names, *values in CHANGES
+    for name in names.split()
+    for value in values
+]
 FAILURES = [
     (RuntimeError, "invalid index$", BLOCKS, NULL),
+    (RuntimeError, r"No lags\.\.\.$", gravelox.smooth_variogram, (Vario(*[[]] * 5), *[9] * 6, 0)),
+    (RuntimeError, "No lags found$", gravelox.smooth_variogram, (VARIO, 9, 0, 1e-9, 1, 1, 1, 0)),
     (TypeError, ".*incompatible function arg.*\n.*1. .*\n.*2. ", METRIC.forward, ("abc",)),
     (TypeError, ".*incompatible", HOOD.find_neighbors, ((0, 0), 1)),
     (TypeError, ".*incompatible", gravelox.Direction, ("0", 0)),
