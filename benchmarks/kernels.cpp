@@ -1,17 +1,23 @@
 // SPDX-License-Identifier: MIT
 
 // Kernels and floors that a script cannot time without its own overhead. Each benchmark counts its
-// items (systems, queries, points, targets): 1 / items_per_second is the processor time of one.
+// items (systems, queries, points, pairs): 1 / items_per_second is the processor time of one.
 //
-// Points, model and sizes are those of run.py, which forms ratios of these figures to whole runs.
+// Points, model and sizes are those of the scripts beside it, which form ratios of these figures to
+// whole runs.
 
 #include <benchmark/benchmark.h>
+#include <fftw3.h>
 
 #include <Eigen/Cholesky>
 #include <Eigen/Core>
 #include <algorithm>
+#include <array>
+#include <cmath>
 #include <cstdint>
 #include <ctime>
+#include <memory>
+#include <numbers>
 #include <vector>
 
 #include "common/integer.hpp"
@@ -22,6 +28,7 @@
 #include "spatial/ellipsoid.hpp"
 #include "spatial/neighbor_buffer.hpp"
 #include "spatial/neighborhood.hpp"
+#include "spatial/sphere_sampling.hpp"
 #include "variography/cov_computer.hpp"
 #include "variography/covariance.hpp"
 
@@ -185,6 +192,85 @@ void ordinary_kriging(benchmark::State& state) {
   state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(n_targets));
 }
 
+struct fft_free {
+  void operator()(void* memory) const { fftw_free(memory); }
+};
+
+template <typename T>
+std::unique_ptr<T[], fft_free> fft_array(std::size_t n) {
+  std::unique_ptr<T[], fft_free> elements(static_cast<T*>(fftw_malloc(n * sizeof(T))));
+  std::fill_n(reinterpret_cast<double*>(elements.get()), n * sizeof(T) / sizeof(double), 1.0);
+  return elements;
+}
+
+/// The floor of a variogram map: its five transforms, three forward and two back, of cubes of this
+/// length. Planning is left out, and so is fresh memory.
+void transforms(benchmark::State& state) {
+  constexpr unsigned planner_flags = FFTW_ESTIMATE_PATIENT;  // those of the map
+  const auto length = static_cast<int>(state.range(0));
+  const std::size_t size = to_size(length) * to_size(length);
+  const auto values = fft_array<double>(size * to_size(length));
+  const auto result = fft_array<double>(size * to_size(length));
+  std::array<std::unique_ptr<fftw_complex[], fft_free>, 3> spectra;
+  for (auto& spectrum : spectra) spectrum = fft_array<fftw_complex>(size * to_size(length / 2 + 1));
+  const fftw_plan forward =
+      fftw_plan_dft_r2c_3d(length, length, length, values.get(), spectra[0].get(), planner_flags);
+  const fftw_plan backward =
+      fftw_plan_dft_c2r_3d(length, length, length, spectra[0].get(), result.get(), planner_flags);
+  for (auto _ : state) {
+    for (auto& spectrum : spectra) fftw_execute_dft_r2c(forward, values.get(), spectrum.get());
+    fftw_execute_dft_c2r(backward, spectra[0].get(), result.get());
+    fftw_execute_dft_c2r(backward, spectra[1].get(), result.get());
+    benchmark::ClobberMemory();
+  }
+  fftw_destroy_plan(forward);
+  fftw_destroy_plan(backward);
+  state.SetItemsProcessed(state.iterations());
+}
+
+/// A lag of equal steps of length: the sum of its semivariances and its pairs.
+struct plain_lag {
+  double sum = 0.0;
+  double n = 0.0;
+};
+
+/// The floor of a variogram of samples: a plain loop over all their pairs, each of which goes to a
+/// lag by its length, along each of these directions (the argument, 0 for pairs of all angles) that
+/// it lies within 22.5 degrees of.
+void pairs(benchmark::State& state) {
+  constexpr std::size_t n_points = 5000;
+  constexpr std::size_t n_lags = 75;
+  constexpr double lags_per_length = n_lags / (2.0 * side);
+  const auto n_directions = static_cast<std::size_t>(state.range(0));
+  const double least_cosine = std::cos(22.5 * std::numbers::pi / 180.0);
+  const location_list samples = uniform_points(n_points, sample_seed);
+  const std::vector<double> values = values_at(samples);
+  const location_list directions = generate_random_sphere(4, 1);
+  std::vector<std::array<plain_lag, n_lags>> lags(std::max(n_directions, std::size_t{1}));
+  for (auto _ : state) {
+    for (std::size_t a = 0; a < n_points; ++a) {
+      for (std::size_t b = a + 1; b < n_points; ++b) {
+        const location lag = samples[a] - samples[b];
+        const double length = lag.norm();
+        const double difference = values[a] - values[b];
+        const auto place = static_cast<std::size_t>(length * lags_per_length);
+        const auto add = [&](std::size_t direction) {
+          lags[direction][place].sum += 0.5 * difference * difference;
+          lags[direction][place].n += 1.0;
+        };
+        if (n_directions == 0) add(0);
+        for (std::size_t d = 0; d < n_directions; ++d) {
+          if (std::abs(lag.dot(directions[d])) >= least_cosine * length) add(d);
+        }
+      }
+    }
+    benchmark::DoNotOptimize(lags.data());
+    benchmark::ClobberMemory();
+  }
+  state.SetItemsProcessed(state.iterations() *
+                          static_cast<std::int64_t>(n_points * (n_points - 1) / 2));
+}
+
 // Short runs: the machine may be shared, and of several short ones some are undisturbed.
 constexpr double min_seconds = 0.1;
 
@@ -194,6 +280,8 @@ BENCHMARK(ordinary_kriging)->MinTime(min_seconds);
 BENCHMARK(inverse_distance)->MinTime(min_seconds);
 BENCHMARK(query)->MinTime(min_seconds)->Arg(20000)->Arg(100000);
 BENCHMARK(tree)->MinTime(min_seconds)->Arg(20000)->Arg(100000);
+BENCHMARK(transforms)->MinTime(min_seconds)->Arg(192)->Arg(255);
+BENCHMARK(pairs)->MinTime(min_seconds)->Arg(0)->Arg(1)->Arg(4);
 
 }  // namespace
 

@@ -105,6 +105,16 @@ def grids():
     )
 
 
+def rotations():
+    box, turn = gx.optimize_rotation(SAMPLES, 40, 300, n_threads=1, n_rays=50)
+    yield "optimize_rotation", [box.lower(), box.upper(), turn]
+    box, turn = gx.optimize_rotation(SAMPLES, 9, 200, 1, use_fixed_samples=False, n_rays=20)
+    yield "optimize_rotation.drawn", [box.lower(), box.upper(), turn]
+    yield "extreme_points", gx.extreme_points(SAMPLES, 30, n_threads=1)
+    yield "generate_rotations", gx.generate_rotations(8, 3, 0.3)
+    yield "generate_ellipsoids", gx.generate_ellipsoids(10, 80, 5, 2, 3, 0.4)
+
+
 def covariances():
     for cov in MODEL:
         yield f"Covariance.{cov.type()}", [cov(lag) for lag in LAGS]
@@ -150,7 +160,64 @@ def estimations():
         )
 
 
-FAMILIES = (samplers, ellipsoids, neighborhoods, grids, covariances, estimations)
+def variograms():
+    gx.set_fft_n_threads(1)
+    lags = {"n_directions": 15, "n_lags": 12, "bandwidth": 1.3, "n_threads": 1}
+    cells = {"nx": 21, "ny": 18, "nz": 10}
+    values = [math.sin(0.04 * x) + 0.02 * y * z for x, y, z in GRID.locations()]
+    active = [math.cos(0.1 * i) for i in range(len(BLOCKS))]
+    box = gx.BoundingBox(SAMPLES)
+    laid = {"corners": box.corners(), "locations": SAMPLES, "data": VALUES, "origin": box.lower()}
+    yield "compute_variogram", gx.compute_variogram(**laid, **cells, **lags)
+    yield "compute_variogram.grid", gx.compute_variogram(GRID, values, **cells, **lags)
+    yield "compute_variogram.blocks", gx.compute_variogram(BLOCKS, active, **cells, **lags)
+    few = {"angle_tol": 25, "n_lags": 20, "bandwidth": 0.4, "n_directions": 20, "n_threads": 1}
+    vario = gx.compute_exp_variogram(SAMPLES, VALUES, 30, **few)
+    yield "compute_exp_variogram", vario
+    every = gx.compute_exp_variogram(SAMPLES, VALUES, len(SAMPLES), window_size=0, **few)
+    yield "compute_exp_variogram.every", every
+    yield (
+        "ExperimentalVariogram.get_variogram",
+        [
+            vario.get_variogram(70, 20),
+            vario.get_variogram((1, 2, 3)),
+            vario.get_variogram_by_direction_id(5),
+        ],
+    )
+    smooth = gx.smooth_variogram(vario, 15, 0, 40, 20, 2, 0.8, 10, n_threads=1)
+    yield "smooth_variogram", smooth
+    yield "smooth_variogram.count", gx.smooth_variogram(vario, 0, 8, 60, 30, 1.7, 0.9, 0, 1)
+    computer = gx.variogram_computer(MODEL, 2.5)
+    yield "variogram_computer", [computer(lag) for lag in LAGS]
+
+
+def spectra():
+    for n in (1, 60, 91):
+        series = [math.sin(0.3 * i) + math.cos(0.07 * i * i) for i in range(n)]
+        spectrum = gx.fft.SpectralData1D.forward(series)
+        yield f"SpectralData1D.{n}", spectrum
+        yield f"SpectralData1D.backward.{n}", spectrum.backward()
+        yield f"SpectralData1D.filter_frequencies.{n}", spectrum.filter_frequencies([0, n // 3])
+        yield f"SpectralData1D.smooth_frequencies.{n}", spectrum.smooth_frequencies(2)
+        yield f"SpectralData1D.shift.{n}", [spectrum.polar(True), spectrum.cartesian(True)]
+    along, _, _ = zip(*SAMPLES)
+    line = gx.fft.project_to_line(along, VALUES, 1.2, 1.5, 40, 6)
+    yield "project_to_line", line
+    back = gx.fft.project_back_to_source(along, *line, 7.0, 1.2, 1.5)
+    yield "project_back_to_source", back
+
+
+FAMILIES = (
+    samplers,
+    ellipsoids,
+    neighborhoods,
+    grids,
+    rotations,
+    covariances,
+    estimations,
+    variograms,
+    spectra,
+)
 
 
 def to_text(value):
@@ -166,6 +233,11 @@ def to_text(value):
         return [to_text(value.matrix()), to_text(value.inv_matrix())]
     if isinstance(value, gx.Covariance):
         return [value.type(), to_text(value.sill()), to_text(value.ellipsoid())]
+    if isinstance(value, gx.ExperimentalVariogram):
+        lags = [value.lags(), value.variogram(), value.npairs(), value.direction_ids()]
+        return [to_text(part) for part in (*lags, value.directions(), value.lags_by_dir())]
+    if isinstance(value, gx.fft.SpectralData1D):
+        return [to_text(value.polar()), to_text(value.cartesian())]
     if isinstance(value, (list, tuple, np.ndarray)):
         return [to_text(element) for element in value]
     raise TypeError(f"no text for {type(value)}")

@@ -40,7 +40,9 @@ def widen_parameters(line: str) -> str:
 def finish(text: str) -> str:
     text = "\n".join(widen_parameters(line).rstrip() for line in text.splitlines()) + "\n"
     if "numpy.typing." in text:
-        first = "import numpy" if "\nimport numpy\n" in text else "from __future__ import annotations"
+        first = (
+            "import numpy" if "\nimport numpy\n" in text else "from __future__ import annotations"
+        )
         text = text.replace(f"{first}\n", f"{first}\nimport numpy.typing\n", 1)
     return text
 

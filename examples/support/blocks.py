@@ -48,7 +48,7 @@ def blocks_near_samples(
     samples: Samples, cell_size: Array, metric: gravelox.Ellipsoid, reach: float
 ) -> Blocks:
     """The cells over the samples' box that have a sample within reach, in the metric's ranges."""
-    grid = _grid_over(samples.locations, cell_size)
+    grid = grid_over(samples.locations, cell_size)
     places = np.array(grid.locations())
     active = _distances(places, samples.locations, metric) <= reach
     if not active.any():
@@ -71,7 +71,7 @@ def _distances(places: Array, locations: Array, metric: gravelox.Ellipsoid) -> A
     return result
 
 
-def _grid_over(locations: Array, cell_size: Array) -> gravelox.CartesianGrid:
+def grid_over(locations: Array, cell_size: Array) -> gravelox.CartesianGrid:
     """A grid whose first cell location is the low corner of the box of the locations.
 
     A grid's locations are the low corners of its cells. Taken as block centres, as here, the

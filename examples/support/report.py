@@ -86,9 +86,9 @@ def _line(name: str, text: str) -> None:
 
 def _row(name: str, values: Sequence[Any]) -> None:
     widths = (12, 16, 12)
-    cells = ["" if value is None else _number(value) for value in values]
+    cells = ["" if value is None else number(value) for value in values]
     print(f"{name:30}" + "".join(f"{cell:>{width}}" for cell, width in zip(cells, widths)))
 
 
-def _number(value: float) -> str:
+def number(value: float) -> str:
     return f"{value:,.0f}" if abs(value) >= 1000 else f"{value:.4g}"

@@ -53,6 +53,10 @@ void check_index(std::string_view name, long long index, std::size_t size) {
   }
 }
 
+void check_not_nan(std::string_view name, double value) {
+  if (std::isnan(value)) refuse(name, "a number", "nan");
+}
+
 void check_finite(std::string_view name, double value) {
   if (!std::isfinite(value)) refuse(name, "a finite number", text_of(value));
 }

@@ -38,6 +38,9 @@ void check_at_least(std::string_view name, long long value, long long least);
 /// An index in 0..size-1.
 void check_index(std::string_view name, long long index, std::size_t size);
 
+/// Any number, infinities included.
+void check_not_nan(std::string_view name, double value);
+
 /// No NaN and no infinity; the message names the first offending position.
 void check_finite(std::string_view name, double value);
 void check_finite(std::string_view name, const location& value);

@@ -2,10 +2,10 @@
 #pragma once
 
 // Defaults of grids; they carry their own text, so that signatures read the same on every run.
-// Include it after casters.hpp.
+
+#include "module/casters.hpp"
 
 #include "common/location.hpp"
-#include "module/casters.hpp"
 
 namespace gravelox {
 

@@ -150,7 +150,8 @@ out again, but for the ends: there the windows are shorter, and magnitudes come 
 Parameters
 ----------
 window_size : int
-    Elements to each side. 0 has no span: all magnitudes are then NaN or infinite.
+    Elements to each side. 0 has no span, nor has a spectrum of one element: all magnitudes are then
+    NaN or infinite.
 
 Returns
 -------
@@ -176,7 +177,8 @@ Resample scattered samples along a line to regular positions, by a kernel averag
 
 The positions are lo, lo + dx, ... with dx = (greatest `x` - lo) / `n_points`: they start at the
 least `x` and end one step short of the greatest. A sample at distance d has the weight
-exp(-(d `b` / dx)^`power_a`). Where all samples share one position, values are 0.
+exp(-(d `b` / dx)^`power_a`). Where all samples share one position there is no step, and values are 0
+(with a `power_a` of 0 their mean).
 
 Parameters
 ----------
@@ -246,7 +248,8 @@ list of float
 Raises
 ------
 ValueError
-    If lists differ in length, there are targets but no sources, or a position is not finite.
+    If lists differ in length, there are targets but no sources, a position is not finite, or `dr` is
+    not a number.
 
 Examples
 --------

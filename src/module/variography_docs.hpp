@@ -59,7 +59,7 @@ Lag vectors.
 Returns
 -------
 list of numpy.ndarray of shape (3,)
-    In metres or another length unit, direction by direction and by length.
+    In metres or another length unit, in the order of positions.
 )";
 
 constexpr const char* variogram = R"(
@@ -111,7 +111,7 @@ dip : float
 Returns
 -------
 lags : list of numpy.ndarray of shape (3,)
-    Lag vectors, by length.
+    Lag vectors, in the order of positions (by length, where the module made the variogram).
 variogram : list of float
     Semivariances, in data units squared.
 npairs : list of int
@@ -129,16 +129,21 @@ Lags of the direction nearest to a vector.
 Parameters
 ----------
 dir : array_like of shape (3,)
-    A vector of any length but 0.
+    A vector of any length; for one of length 0 the lists are empty.
 
 Returns
 -------
 lags : list of numpy.ndarray of shape (3,)
-    Lag vectors, by length.
+    Lag vectors, in the order of positions (by length, where the module made the variogram).
 variogram : list of float
     Semivariances, in data units squared.
 npairs : list of int
     Pair counts.
+
+Notes
+-----
+Of the directions that have lags. Opposite directions are two. Three empty lists where there is
+none.
 )";
 
 constexpr const char* get_variogram_by_direction_id = R"(
@@ -152,7 +157,7 @@ direction_id : int
 Returns
 -------
 lags : list of numpy.ndarray of shape (3,)
-    Lag vectors, by length.
+    Lag vectors, in the order of positions (by length, where the module made the variogram).
 variogram : list of float
     Semivariances, in data units squared.
 npairs : list of int
@@ -236,7 +241,9 @@ rotation : array_like of shape (3,)
 Returns
 -------
 ExperimentalVariogram
-    The lags that have pairs. Every pair counts twice, once from each end.
+    The lags that have pairs. A pair counts at its lag and at the opposite one. Directions are drawn
+    where the working grid is a unit cube: on one that is turned or has unequal sides lags do not
+    point along `directions()`.
 
 Raises
 ------
@@ -254,7 +261,10 @@ Experimental variogram of the cells of a grid, from the variogram map of a worki
 
 The working grid spans the cells' locations, which are their low corners: it is shorter than the
 grid by a cell along each axis, and the last cells fall outside it. With as many working cells as
-the grid has, less one along each axis, each cell has its own.
+the grid has along each axis all other cells stand apart; lags then come in steps a little shorter
+than a cell. To keep every cell in its place use the form with locations: a working grid that begins
+half a cell before the first location and ends half a cell behind the last, so that none stands on
+the border of two working cells, where rounding decides.
 
 Parameters
 ----------
@@ -281,7 +291,9 @@ nx, ny, nz : int
 Returns
 -------
 ExperimentalVariogram
-    The lags that have pairs. Every pair counts twice, once from each end.
+    The lags that have pairs. A pair counts at its lag and at the opposite one. Directions are drawn
+    where the working grid is a unit cube: on one that is turned or has unequal sides lags do not
+    point along `directions()`.
 
 Raises
 ------
@@ -331,7 +343,9 @@ nx, ny, nz : int
 Returns
 -------
 ExperimentalVariogram
-    The lags that have pairs. Every pair counts twice, once from each end.
+    The lags that have pairs. A pair counts at its lag and at the opposite one. Directions are drawn
+    where the working grid is a unit cube: on one that is turned or has unequal sides lags do not
+    point along `directions()`.
 
 Raises
 ------
@@ -448,7 +462,7 @@ Raises
 RuntimeError
     "No lags found" if all new lags stay empty, "No lags..." if there are none to fill.
 ValueError
-    If `vario` has no lags, `sampling_size` is negative, or a number is not finite.
+    If `vario` has no lags to take words for, `sampling_size` is negative, or a number is not finite.
 
 Examples
 --------

@@ -57,15 +57,27 @@ void plan_and_execute(const MakePlan& make_plan) {
   fftw_destroy_plan(plan);
 }
 
-/// How many elements of a spectrum a backward transform reads.
-std::int64_t n_read(std::int64_t n_dims, const array& result) {
-  if (n_dims == 1) return result.nx() / 2 + 1;
-  if (n_dims == 2) return result.nx() * (result.ny() / 2 + 1);
-  return result.nx() * result.ny() * (result.nz() / 2 + 1);
+std::string text_of(std::int64_t nx, std::int64_t ny, std::int64_t nz) {
+  return std::to_string(nx) + " x " + std::to_string(ny) + " x " + std::to_string(nz);
 }
 
-bool is_fast(int n) {
-  int odd = n;
+/// A spectrum of three dimensions has those of its array; of fewer, it has at least the elements
+/// that are read.
+void check_spectrum(const complex_array& spectrum, const array& result) {
+  const std::int64_t nx = result.nx();
+  const std::int64_t ny = result.ny();
+  const std::int64_t nz_half = result.nz() / 2 + 1;
+  bool fits = spectrum.nx() == nx && spectrum.ny() == ny && spectrum.nz_half() == nz_half;
+  if (spectrum.n_dims() == 1) fits = spectrum.size() >= nx / 2 + 1;
+  if (spectrum.n_dims() == 2) fits = spectrum.size() >= nx * (ny / 2 + 1);
+  if (!fits) {
+    refuse("spectrum", "that of an array of " + text_of(nx, ny, result.nz()),
+           text_of(spectrum.nx(), spectrum.ny(), spectrum.nz_half()) + " elements");
+  }
+}
+
+bool is_fast(std::int64_t n) {
+  std::int64_t odd = n;
   while (odd % 2 == 0) odd /= 2;
   if (odd == n || odd == 1) return false;
   for (const int factor : {3, 5, 7}) {
@@ -167,10 +179,7 @@ void backward(complex_array spectrum, array& result) {
   const int nz = length_of(result.nz());
   if (result.size() == 0) return;
   const std::int64_t n_dims = spectrum.n_dims();
-  if (n_read(n_dims, result) > spectrum.size()) {
-    refuse("spectrum", "at least " + std::to_string(n_read(n_dims, result)) + " elements",
-           std::to_string(spectrum.size()));
-  }
+  check_spectrum(spectrum, result);
   fftw_complex* input = elements_of(spectrum);
   double* output = result.data();
   plan_and_execute([&] {
@@ -180,8 +189,8 @@ void backward(complex_array spectrum, array& result) {
   });
 }
 
-int fast_length(int n) {
-  constexpr int small = 16;
+std::int64_t fast_length(std::int64_t n) {
+  constexpr std::int64_t small = 16;
   if (n <= small) return n;
   while (!is_fast(n)) ++n;
   return n;

@@ -18,8 +18,9 @@ namespace gravelox::fft {
 /// A real array of extents (nx, ny, nz), nz fastest; a missing dimension is 1.
 ///
 /// It owns its elements, unless it was made as a view of outside memory, which then has to live as
-/// long as the view. A copy always owns its elements, that of a view too. All constructors throw
-/// std::invalid_argument for a negative extent.
+/// long as the view. A copy always owns its elements, that of a view too; what was moved from is
+/// good for nothing but to be assigned to. All constructors throw std::invalid_argument for a
+/// negative extent.
 class array {
  public:
   /// Takes the values; throws std::invalid_argument where there are not nx ny nz of them.
@@ -53,8 +54,16 @@ class array {
   const double* data() const { return data_; }
   double& operator[](std::size_t index) { return data_[index]; }
   double operator[](std::size_t index) const { return data_[index]; }
+  double& operator()(std::size_t i, std::size_t j, std::size_t k) { return data_[place(i, j, k)]; }
+  double operator()(std::size_t i, std::size_t j, std::size_t k) const {
+    return data_[place(i, j, k)];
+  }
 
  private:
+  std::size_t place(std::size_t i, std::size_t j, std::size_t k) const {
+    return (i * static_cast<std::size_t>(ny_) + j) * static_cast<std::size_t>(nz_) + k;
+  }
+
   std::int64_t nx_;
   std::int64_t ny_;
   std::int64_t nz_;
@@ -94,6 +103,10 @@ class complex_array {
   const std::complex<double>* data() const { return data_.get(); }
   std::complex<double>& operator[](std::size_t index) { return data_.get()[index]; }
   const std::complex<double>& operator[](std::size_t index) const { return data_.get()[index]; }
+  std::complex<double>& operator()(std::size_t i, std::size_t j, std::size_t k) {
+    return data_
+        .get()[(i * static_cast<std::size_t>(ny_) + j) * static_cast<std::size_t>(nz_half_) + k];
+  }
 
  private:
   struct fft_free {
@@ -115,13 +128,13 @@ complex_array forward(const array& values);
 /// The real array of a spectrum into `result`, whose extents tell the lengths; not scaled: a round
 /// trip multiplies by the number of elements. Reads the lower half along the last of the spectrum's
 /// n_dims dimensions alone. The library destroys what it transforms, so the spectrum comes by
-/// value: move one that is not needed any more. Throws std::invalid_argument where the spectrum has
-/// fewer elements than the result needs.
+/// value: move one that is not needed any more. Throws std::invalid_argument where the spectrum is
+/// not that of an array of such extents.
 void backward(complex_array spectrum, array& result);
 
 /// The least length, at least n, that transforms fast: an even one with the prime factors 2, 3, 5
 /// and 7, but no power of two, where the rows of a large array meet in the same places of the
 /// cache. Lengths up to 16 stand as they are.
-int fast_length(int n);
+std::int64_t fast_length(std::int64_t n);
 
 }  // namespace gravelox::fft

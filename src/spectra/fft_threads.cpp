@@ -2,6 +2,7 @@
 #include "spectra/fft_threads.hpp"
 
 #include <fftw3.h>
+#include <pthread.h>
 
 #include "common/threads.hpp"
 
@@ -21,6 +22,9 @@ std::recursive_mutex& fft_mutex() {
 void ready_fft_threads() {
   if (fft_threads_ready) return;
   fftw_init_threads();
+  // The library keeps its threads from one transform to the next, and a forked process has none of
+  // them: it would wait for them for ever.
+  pthread_atfork(nullptr, nullptr, [] { fftw_plan_with_nthreads(1); });
   fft_threads_ready = true;
 }
 

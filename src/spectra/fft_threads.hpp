@@ -11,7 +11,8 @@ namespace gravelox {
 /// Whoever plans several transforms in one go may hold it throughout: it is recursive.
 std::recursive_mutex& fft_mutex();
 
-/// Readies the library for threads; only the first call does anything. Hold fft_mutex.
+/// Readies the library for threads; only the first call does anything. Hold fft_mutex. A process
+/// that is forked off later plans for one thread, until it asks for another number itself.
 void ready_fft_threads();
 
 /// Sets the number of threads of plans made from now on to check_n_threads(n_threads).

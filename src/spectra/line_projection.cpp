@@ -92,7 +92,7 @@ std::vector<double> project_back_to_source(const std::vector<double>& target_x,
   check_same_size("source_data", source_data.size(), source_x.size(), "source position");
   check_finite("target_x", target_x);
   check_finite("source_x", source_x);
-  check_finite("dr", dr);
+  check_not_nan("dr", dr);
   if (target_x.empty()) return {};
   check_not_empty("source_x", source_x.size());
 

@@ -16,9 +16,9 @@ namespace gravelox::fft {
 /// are the first one not below it and window_size to each side of that, in the order of x; samples
 /// of equal x keep their order. The scale is dx.
 ///
-/// No points give two empty lists, and samples that all share one x zeros. Throws
-/// std::invalid_argument where lists differ in length, x is empty or not finite, or a count is
-/// negative.
+/// No points give two empty lists, and samples that all share one x zeros (unless power_a is 0).
+/// Throws std::invalid_argument where lists differ in length, x is empty or not finite, or a count
+/// is negative.
 std::pair<std::vector<double>, std::vector<double>> project_to_line(const std::vector<double>& x,
                                                                     const std::vector<double>& data,
                                                                     double b, double power_a,
@@ -29,7 +29,7 @@ std::pair<std::vector<double>, std::vector<double>> project_to_line(const std::v
 /// always one: past the last source it is the last. The scale is dr.
 ///
 /// Throws std::invalid_argument where lists differ in length, there are targets but no sources, or
-/// a position or dr is not finite.
+/// a position is not finite or dr not a number.
 std::vector<double> project_back_to_source(const std::vector<double>& target_x,
                                            const std::vector<double>& source_x,
                                            const std::vector<double>& source_data, double dr,

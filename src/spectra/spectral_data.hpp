@@ -31,7 +31,8 @@ class SpectralData1D {
   /// Magnitudes averaged over `window_size` elements to both sides and scaled to the old total;
   /// phases are kept. The sums are divided by the span of the window, one less than its elements:
   /// the scaling takes that out again, but for the ends of the spectrum. A window of 0 has no span,
-  /// and all magnitudes are NaN or infinite. Throws std::invalid_argument for a negative window.
+  /// nor has one over a single element, and all magnitudes are NaN or infinite. Costs a window an
+  /// element. Throws std::invalid_argument for a negative window.
   SpectralData1D smooth_frequencies(int window_size) const;
 
   /// (magnitude, phase) and (real, imag); with `shift` the zero frequency stands in the middle.

@@ -29,7 +29,9 @@ experimental_variogram::experimental_variogram(location_list lags, std::vector<d
 }
 
 variogram_points experimental_variogram::get_variogram(const location& dir) const {
-  const location unit = dir / dir.norm();
+  // Stable: vectors so long or short that their squares overflow have a direction too.
+  const location unit = dir.stableNormalized();
+  if (!(unit.norm() > 0.0)) return {};
   double nearest = 1e30;
   std::size_t nearest_id = directions_.size();
   for (std::size_t id = 0; id < directions_.size(); ++id) {

@@ -4,11 +4,11 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <string>
 #include <utility>
 
 #include "common/checks.hpp"
 #include "common/integer.hpp"
+#include "common/memory.hpp"
 #include "common/parallel_for.hpp"
 #include "common/random.hpp"
 #include "spatial/bounding_box.hpp"
@@ -23,15 +23,6 @@ namespace {
 
 constexpr double missing = std::numeric_limits<double>::quiet_NaN();
 
-void check_counts(int n_directions, int n_lags) {
-  check_at_least("n_directions", n_directions, 0);
-  check_at_least("n_lags", n_lags, 0);
-  const auto n = 2 * static_cast<long long>(n_directions);
-  if (n > 0 && n_lags > std::numeric_limits<int>::max() / n) {
-    refuse("n_lags", "at most 2147483647 lags in all", std::to_string(n_lags));
-  }
-}
-
 void check_data(const location_list& locations, const std::vector<double>& data) {
   check_same_size("data", data.size(), locations.size(), "location");
   check_finite("locations", locations);
@@ -43,7 +34,9 @@ void check_data(const location_list& locations, const std::vector<double>& data)
 CartesianGrid working_grid(const location_list& corners, const cell_triple& counts,
                            const location& origin, const location& rotation, int n_threads) {
   const Ellipsoid frame = Rotation(rotation[0], rotation[1], rotation[2]);
-  return {extent(frame.forward(corners, n_threads)), counts, origin, rotation};
+  CartesianGrid grid(extent(frame.forward(corners, n_threads)), counts, origin, rotation);
+  detail::check_extent("corners", grid.transformation());
+  return grid;
 }
 
 /// The id of the cell that a location falls in, -1 outside the grid. A location less than a cell
@@ -86,6 +79,8 @@ lag_cloud draw_lags(const CartesianGrid& grid, int n_directions, int n_lags, std
   random_engine engine = create_engine(seed);
   normal_distribution normal;
   std::vector<double> lengths(to_size(n_lags));
+  cloud.lags.reserve(cloud.directions.size() * lengths.size());
+  cloud.direction_ids.reserve(cloud.lags.capacity());
   for (std::size_t id = 0; id < cloud.directions.size(); ++id) {
     for (double& length : lengths) {
       do length = std::abs(normal(engine));
@@ -197,57 +192,68 @@ class map_cells {
   std::vector<char> is_near_;
 };
 
-/// The mean of the map around each lag.
-///
-/// A running mean depends on the order of its terms: neighbours are gathered in parallel for a
-/// stretch of cells at a time, and folded in the order of the cells.
+/// Gathers the lags near each of a list of cells in parallel, a stretch of cells at a time, and
+/// hands them on in the order of the cells: add(cell, lag ids). Stretches grow while they find
+/// little.
+template <typename Gather, typename Add>
+void for_each_in_order(const std::vector<map_cells::cell>& cells, int n_threads,
+                       const Gather& gather, const Add& add) {
+  constexpr std::size_t shortest = 256;
+  constexpr std::size_t longest = 4096;
+  constexpr std::size_t many_ids = 1000000;
+  std::vector<std::vector<std::size_t>> found(longest);
+  std::size_t stretch = shortest;
+  for (std::size_t first = 0; first < cells.size();) {
+    const std::size_t n = std::min(stretch, cells.size() - first);
+    parallel_for(n, n_threads, [&](std::size_t c, int thread_number) {
+      gather(cells[first + c], thread_number, found[c]);
+    });
+    std::size_t n_ids = 0;
+    for (std::size_t c = 0; c < n; ++c) {
+      add(cells[first + c], found[c]);
+      n_ids += found[c].size();
+    }
+    first += n;
+    stretch = n_ids > many_ids ? shortest : std::min(2 * stretch, longest);
+  }
+}
+
+/// The mean of the map around each lag. A running mean depends on the order of its terms, which is
+/// that of the cells.
 std::vector<lag_mean> fold(const variogram_map& map, const CartesianGrid& grid,
                            const location_list& lags, double bandwidth, int n_threads) {
-  constexpr std::size_t stretch = 4096;
-  const cell_triple& counts = grid.number_of_cells();
-  const auto [nx, ny, nz] = counts;
-  const location cell_size(1.0 / nx, 1.0 / ny, 1.0 / nz);
-  const double radius = bandwidth * cell_size.norm();
-
+  const auto [nx, ny, nz] = grid.number_of_cells();
+  const double radius = bandwidth * location(1.0 / nx, 1.0 / ny, 1.0 / nz).norm();
   const location_list normalised_lags = grid.transformation().forward(lags, n_threads);
   const Neighborhood neighborhood(normalised_lags);
-  map_cells cells(map, counts);
+  map_cells cells(map, grid.number_of_cells());
   for (const location& lag : normalised_lags) cells.mark_around(lag, radius);
-  const std::vector<map_cells::cell> near_cells = cells.marked();
 
-  std::vector<lag_mean> means(lags.size());
   std::vector<neighbor_buffer> buffers(n_thread_slots(n_threads));
-  std::vector<std::vector<std::size_t>> found(std::min(stretch, near_cells.size()));
-  for (std::size_t first = 0; first < near_cells.size(); first += stretch) {
-    const std::size_t n = std::min(stretch, near_cells.size() - first);
-    parallel_for(n, n_threads, [&](std::size_t c, int thread_number) {
-      neighbor_buffer& buffer = buffers[to_size(thread_number)];
-      neighborhood.find_neighbors(cells.position(near_cells[first + c]), radius, buffer);
-      found[c] = buffer.ids;
-    });
-    for (std::size_t c = 0; c < n; ++c) {
-      const auto [i, j, k] = near_cells[first + c];
-      for (const std::size_t id : found[c]) means[id].add(map.value(i, j, k), map.n_pairs(i, j, k));
-    }
-  }
+  const auto gather = [&](const map_cells::cell& cell, int thread_number,
+                          std::vector<std::size_t>& near) {
+    neighbor_buffer& buffer = buffers[to_size(thread_number)];
+    neighborhood.find_neighbors(cells.position(cell), radius, buffer);
+    near = buffer.ids;
+  };
+  std::vector<lag_mean> means(lags.size());
+  const auto add = [&](const map_cells::cell& cell, const std::vector<std::size_t>& near) {
+    const double value = map.value(cell.i, cell.j, cell.k);
+    const double n_pairs = map.n_pairs(cell.i, cell.j, cell.k);
+    for (const std::size_t id : near) means[id].add(value, n_pairs);
+  };
+  for_each_in_order(cells.marked(), n_threads, gather, add);
   return means;
 }
 
 /// The lags that rest on at least one pair.
 experimental_variogram with_pairs(lag_cloud cloud, const std::vector<lag_mean>& means) {
-  location_list lags;
-  std::vector<double> variogram;
-  std::vector<int> npairs;
-  std::vector<int> direction_ids;
+  detail::variogram_builder builder;
   for (std::size_t i = 0; i < means.size(); ++i) {
     if (!(means[i].weight >= 1.0)) continue;
-    lags.push_back(cloud.lags[i]);
-    variogram.push_back(means[i].value);
-    npairs.push_back(detail::to_pair_count(means[i].weight));
-    direction_ids.push_back(cloud.direction_ids[i]);
+    builder.add(cloud.lags[i], means[i].value, means[i].weight, to_size(cloud.direction_ids[i]));
   }
-  return {std::move(lags), std::move(variogram), std::move(npairs), std::move(direction_ids),
-          std::move(cloud.directions)};
+  return builder.build(std::move(cloud.directions));
 }
 
 }  // namespace
@@ -261,7 +267,8 @@ experimental_variogram compute_variogram(const location_list& corners,
   check_at_least("nx", nx, 1);
   check_at_least("ny", ny, 1);
   check_at_least("nz", nz, 1);
-  check_counts(n_directions, n_lags);
+  check_grid_memory("nx, ny, nz", {nx, ny, nz}, 5);
+  detail::check_lag_counts(n_directions, n_lags);
   check_not_empty("corners", corners.size());
   check_finite("corners", corners);
   check_finite("bandwidth", bandwidth);

@@ -24,7 +24,7 @@ namespace gravelox {
 /// length below 1e-10 is drawn again. Each map cell up to half the grid away is folded into the
 /// lags within `bandwidth` cell diagonals of it, as a mean weighted by pairs, in the order of the
 /// cells; which lags these are is found by Neighborhood, and is no more exact. Lags with pairs are
-/// kept; every pair counts twice, from both ends.
+/// kept; a pair counts at its lag and at the opposite one.
 ///
 /// The Fourier transforms run on the threads of set_fft_n_threads, the rest on n_threads. Throws
 /// std::invalid_argument where a size of the working grid is below 1, a count negative, corners are

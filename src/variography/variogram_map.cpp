@@ -43,9 +43,9 @@ class padded_grid {
               const cell_triple& reach, int n_threads)
       : values_(values),
         counts_(counts),
-        padded_(fft::fast_length(std::get<0>(counts) + std::get<0>(reach)),
-                fft::fast_length(std::get<1>(counts) + std::get<1>(reach)),
-                fft::fast_length(std::get<2>(counts) + std::get<2>(reach)), 0.0),
+        padded_(padded_length(std::get<0>(counts), std::get<0>(reach)),
+                padded_length(std::get<1>(counts), std::get<1>(reach)),
+                padded_length(std::get<2>(counts), std::get<2>(reach)), 0.0),
         n_threads_(n_threads) {}
 
   /// The transform of f(value) over the cells that have a value; everywhere else is 0. Not after
@@ -58,7 +58,7 @@ class padded_grid {
     parallel_for(nx, n_threads_, [&](std::size_t i, int /*thread_number*/) {
       for (std::size_t j = 0; j < ny; ++j) {
         const double* row = &values_[(i * ny + j) * nz];
-        double* padded_row = &padded_[place(i, j, 0)];
+        double* padded_row = &padded_(i, j, 0);
         for (std::size_t k = 0; k < nz; ++k) {
           if (!std::isnan(row[k])) padded_row[k] = f(row[k]);
         }
@@ -72,20 +72,17 @@ class padded_grid {
 
   /// The correlation at a lag in cells; negative lags wrap around.
   double at_lag(int i, int j, int k) const {
-    return padded_[place(wrapped(i, padded_.nx()), wrapped(j, padded_.ny()),
-                         wrapped(k, padded_.nz()))] /
+    return padded_(wrapped(i, padded_.nx()), wrapped(j, padded_.ny()), wrapped(k, padded_.nz())) /
            static_cast<double>(padded_.size());
   }
 
  private:
-  static std::size_t wrapped(int lag, std::int64_t length) {
-    return static_cast<std::size_t>(lag < 0 ? lag + length : lag);
+  static std::int64_t padded_length(int count, int reach) {
+    return fft::fast_length(std::int64_t{count} + reach);
   }
 
-  std::size_t place(std::size_t i, std::size_t j, std::size_t k) const {
-    return (i * static_cast<std::size_t>(padded_.ny()) + j) *
-               static_cast<std::size_t>(padded_.nz()) +
-           k;
+  static std::size_t wrapped(int lag, std::int64_t length) {
+    return static_cast<std::size_t>(lag < 0 ? lag + length : lag);
   }
 
   const std::vector<double>& values_;

@@ -42,7 +42,8 @@ class variogram_map {
   std::vector<double> n_pairs_;
 };
 
-/// The map of a grid of values in the order of cell ids (k fastest), NaN where a cell has none.
+/// The map of a grid of values in the order of cell ids (k fastest), NaN where a cell has none
+/// (Marcotte, 1996).
 ///
 /// Takes three transforms forward and two back, of lengths of at least counts + reach: at that
 /// length no lag within the reach meets one that wraps around. The reach is the greatest lag in
@@ -51,7 +52,7 @@ class variogram_map {
 ///
 /// Needs at most four arrays of the transforms' size beside the map. Transforms run on the threads
 /// of set_fft_n_threads, the rest on n_threads. Throws std::invalid_argument where a count is below
-/// 1, a reach out of range, or values are not one for each cell (Marcotte, 1996).
+/// 1, a reach out of range, or values are not one for each cell.
 variogram_map compute_variogram_map(const std::vector<double>& values, const cell_triple& counts,
                                     const cell_triple& reach, int n_threads);
 

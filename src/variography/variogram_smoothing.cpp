@@ -22,14 +22,12 @@ namespace {
 
 constexpr double coincident = 1e-30;
 
-/// New lags in the order of directions, those of a direction by length.
-struct new_lags {
-  location_list lags;
-  std::vector<int> direction_ids;
-  std::vector<double> variogram;
-  std::vector<int> npairs;
-
-  std::size_t size() const { return lags.size(); }
+/// A new lag of a direction, and what the old ones near it give.
+struct new_lag {
+  location lag;
+  std::size_t direction_id;
+  double value = 0.0;
+  double npairs = 0.0;
 };
 
 double greatest_length(const experimental_variogram& vario, const std::vector<int>& positions) {
@@ -40,9 +38,10 @@ double greatest_length(const experimental_variogram& vario, const std::vector<in
   return greatest;
 }
 
-new_lags draw_lags(const experimental_variogram& vario, int n_lags, double max_r,
-                   random_engine& engine) {
-  new_lags drawn;
+/// New lags in the order of directions, those of a direction by length.
+std::vector<new_lag> draw_new_lags(const experimental_variogram& vario, int n_lags, double max_r,
+                                   random_engine& engine) {
+  std::vector<new_lag> drawn;
   normal_distribution normal;
   std::vector<double> lengths;
   for (std::size_t id = 0; id < vario.directions().size(); ++id) {
@@ -54,12 +53,9 @@ new_lags draw_lags(const experimental_variogram& vario, int n_lags, double max_r
     }
     std::sort(lengths.begin(), lengths.end());
     for (const double length : lengths) {
-      drawn.lags.push_back(length * vario.directions()[id]);
-      drawn.direction_ids.push_back(to_int(id));
+      drawn.push_back({length * vario.directions()[id], id});
     }
   }
-  drawn.variogram.resize(drawn.size(), 0.0);
-  drawn.npairs.resize(drawn.size(), 0);
   return drawn;
 }
 
@@ -94,9 +90,9 @@ class lag_filler {
     for (const int count : vario.npairs()) total_npairs_ += count;
   }
 
-  void fill(new_lags& lags, std::size_t index, neighbor_buffer& buffer) const {
-    const location& lag = lags.lags[index];
-    const location& direction = vario_.directions()[to_size(lags.direction_ids[index])];
+  void fill(new_lag& to_fill, neighbor_buffer& buffer) const {
+    const location& lag = to_fill.lag;
+    const location& direction = vario_.directions()[to_fill.direction_id];
     find_neighbors(lag, buffer);
     weighted_sums far;
     weighted_sums exact;
@@ -114,7 +110,7 @@ class lag_filler {
         exact.add(weight, vario_.variogram()[nei], npairs);
       }
     }
-    set(lags, index, far, exact);
+    set(to_fill, far, exact);
   }
 
  private:
@@ -126,20 +122,15 @@ class lag_filler {
     }
   }
 
-  void set(new_lags& lags, std::size_t index, const weighted_sums& far,
-           const weighted_sums& exact) const {
-    double value = 0.0;
-    double npairs = 0.0;
+  void set(new_lag& lag, const weighted_sums& far, const weighted_sums& exact) const {
     if (exact.weight > 0.0 && far.weight > 0.0) {
-      value = far.mean_value() * (1.0 - max_weight_) + exact.mean_value() * max_weight_;
-      npairs = far.mean_npairs() * (1.0 - max_weight_) + exact.mean_npairs() * max_weight_;
+      lag.value = far.mean_value() * (1.0 - max_weight_) + exact.mean_value() * max_weight_;
+      lag.npairs = far.mean_npairs() * (1.0 - max_weight_) + exact.mean_npairs() * max_weight_;
     } else if (exact.weight > 0.0 || far.weight > 0.0) {
       const weighted_sums& only = exact.weight > 0.0 ? exact : far;
-      value = only.mean_value();
-      npairs = only.mean_npairs();
+      lag.value = only.mean_value();
+      lag.npairs = only.mean_npairs();
     }
-    lags.variogram[index] = value;
-    lags.npairs[index] = detail::to_pair_count(npairs);
   }
 
   const experimental_variogram& vario_;
@@ -152,21 +143,15 @@ class lag_filler {
   double total_npairs_ = 0.0;
 };
 
-experimental_variogram with_pairs(const new_lags& lags, const location_list& directions) {
-  location_list kept;
-  std::vector<double> variogram;
-  std::vector<int> npairs;
-  std::vector<int> direction_ids;
-  for (std::size_t i = 0; i < lags.size(); ++i) {
-    if (lags.npairs[i] <= 0) continue;
-    kept.push_back(lags.lags[i]);
-    variogram.push_back(lags.variogram[i]);
-    npairs.push_back(lags.npairs[i]);
-    direction_ids.push_back(lags.direction_ids[i]);
+experimental_variogram with_pairs(const std::vector<new_lag>& lags,
+                                  const location_list& directions) {
+  detail::variogram_builder builder;
+  for (const new_lag& lag : lags) {
+    if (detail::variogram_builder::whole_count(lag.npairs) < 1) continue;
+    builder.add(lag.lag, lag.value, lag.npairs, lag.direction_id);
   }
-  if (kept.empty()) throw std::runtime_error("No lags found");
-  return {std::move(kept), std::move(variogram), std::move(npairs), std::move(direction_ids),
-          directions};
+  if (builder.empty()) throw std::runtime_error("No lags found");
+  return builder.build(directions);
 }
 
 }  // namespace
@@ -175,8 +160,9 @@ experimental_variogram smooth_variogram(const experimental_variogram& vario, int
                                         int max_n_neis, double max_r, double bandwidth,
                                         double power_a, double max_weight, int sampling_size,
                                         int n_threads, std::int64_t seed) {
+  check_finite("vario", vario.lags());
   check_finite("max_r", max_r);
-  if (std::isnan(bandwidth)) refuse("bandwidth", "a number", "nan");
+  check_not_nan("bandwidth", bandwidth);
   check_finite("power_a", power_a);
   check_finite("max_weight", max_weight);
   check_at_least("sampling_size", sampling_size, 0);
@@ -186,12 +172,12 @@ experimental_variogram smooth_variogram(const experimental_variogram& vario, int
   // A pick of an old lag each, which nothing reads: they only advance the engine.
   engine.discard(to_size(sampling_size));
   const lag_filler filler(vario, max_n_neis, max_r, bandwidth, power_a, max_weight);
-  new_lags lags = draw_lags(vario, n_lags, max_r, engine);
-  if (lags.size() == 0) throw std::runtime_error("No lags...");
+  std::vector<new_lag> lags = draw_new_lags(vario, n_lags, max_r, engine);
+  if (lags.empty()) throw std::runtime_error("No lags...");
 
   std::vector<neighbor_buffer> buffers(n_thread_slots(n_threads));
   parallel_for(lags.size(), n_threads, [&](std::size_t index, int thread_number) {
-    filler.fill(lags, index, buffers[to_size(thread_number)]);
+    filler.fill(lags[index], buffers[to_size(thread_number)]);
   });
   return with_pairs(lags, vario.directions());
 }

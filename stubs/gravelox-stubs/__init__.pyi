@@ -1170,7 +1170,7 @@ class ExperimentalVariogram:
         Returns
         -------
         lags : list of numpy.ndarray of shape (3,)
-            Lag vectors, by length.
+            Lag vectors, in the order of positions (by length, where the module made the variogram).
         variogram : list of float
             Semivariances, in data units squared.
         npairs : list of int
@@ -1189,16 +1189,21 @@ class ExperimentalVariogram:
         Parameters
         ----------
         dir : array_like of shape (3,)
-            A vector of any length but 0.
+            A vector of any length; for one of length 0 the lists are empty.
 
         Returns
         -------
         lags : list of numpy.ndarray of shape (3,)
-            Lag vectors, by length.
+            Lag vectors, in the order of positions (by length, where the module made the variogram).
         variogram : list of float
             Semivariances, in data units squared.
         npairs : list of int
             Pair counts.
+
+        Notes
+        -----
+        Of the directions that have lags. Opposite directions are two. Three empty lists where there is
+        none.
         """
     def get_variogram_by_direction_id(self, direction_id: int) -> tuple[list[numpy.ndarray[numpy.float64[3, 1]]], list[float], list[int]]:
         """
@@ -1212,7 +1217,7 @@ class ExperimentalVariogram:
         Returns
         -------
         lags : list of numpy.ndarray of shape (3,)
-            Lag vectors, by length.
+            Lag vectors, in the order of positions (by length, where the module made the variogram).
         variogram : list of float
             Semivariances, in data units squared.
         npairs : list of int
@@ -1230,7 +1235,7 @@ class ExperimentalVariogram:
         Returns
         -------
         list of numpy.ndarray of shape (3,)
-            In metres or another length unit, direction by direction and by length.
+            In metres or another length unit, in the order of positions.
         """
     def lags_by_dir(self) -> list[list[int]]:
         """
@@ -1874,7 +1879,9 @@ def compute_variogram(corners: numpy.typing.ArrayLike, locations: numpy.typing.A
     Returns
     -------
     ExperimentalVariogram
-        The lags that have pairs. Every pair counts twice, once from each end.
+        The lags that have pairs. A pair counts at its lag and at the opposite one. Directions are drawn
+        where the working grid is a unit cube: on one that is turned or has unequal sides lags do not
+        point along `directions()`.
 
     Raises
     ------
@@ -1893,7 +1900,10 @@ def compute_variogram(cartesian_grid: CartesianGrid, data: numpy.typing.ArrayLik
 
     The working grid spans the cells' locations, which are their low corners: it is shorter than the
     grid by a cell along each axis, and the last cells fall outside it. With as many working cells as
-    the grid has, less one along each axis, each cell has its own.
+    the grid has along each axis all other cells stand apart; lags then come in steps a little shorter
+    than a cell. To keep every cell in its place use the form with locations: a working grid that begins
+    half a cell before the first location and ends half a cell behind the last, so that none stands on
+    the border of two working cells, where rounding decides.
 
     Parameters
     ----------
@@ -1920,7 +1930,9 @@ def compute_variogram(cartesian_grid: CartesianGrid, data: numpy.typing.ArrayLik
     Returns
     -------
     ExperimentalVariogram
-        The lags that have pairs. Every pair counts twice, once from each end.
+        The lags that have pairs. A pair counts at its lag and at the opposite one. Directions are drawn
+        where the working grid is a unit cube: on one that is turned or has unequal sides lags do not
+        point along `directions()`.
 
     Raises
     ------
@@ -1971,7 +1983,9 @@ def compute_variogram(block_model: BlockModel, data: numpy.typing.ArrayLike, n_d
     Returns
     -------
     ExperimentalVariogram
-        The lags that have pairs. Every pair counts twice, once from each end.
+        The lags that have pairs. A pair counts at its lag and at the opposite one. Directions are drawn
+        where the working grid is a unit cube: on one that is turned or has unequal sides lags do not
+        point along `directions()`.
 
     Raises
     ------
@@ -2463,7 +2477,7 @@ def smooth_variogram(vario: ExperimentalVariogram, n_lags: int, max_n_neis: int,
     RuntimeError
         "No lags found" if all new lags stay empty, "No lags..." if there are none to fill.
     ValueError
-        If `vario` has no lags, `sampling_size` is negative, or a number is not finite.
+        If `vario` has no lags to take words for, `sampling_size` is negative, or a number is not finite.
 
     Examples
     --------

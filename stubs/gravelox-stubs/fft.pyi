@@ -149,7 +149,8 @@ class SpectralData1D:
         Parameters
         ----------
         window_size : int
-            Elements to each side. 0 has no span: all magnitudes are then NaN or infinite.
+            Elements to each side. 0 has no span, nor has a spectrum of one element: all magnitudes are then
+            NaN or infinite.
 
         Returns
         -------
@@ -200,7 +201,8 @@ def project_back_to_source(target_x: numpy.typing.ArrayLike, source_x: numpy.typ
     Raises
     ------
     ValueError
-        If lists differ in length, there are targets but no sources, or a position is not finite.
+        If lists differ in length, there are targets but no sources, a position is not finite, or `dr` is
+        not a number.
 
     Examples
     --------
@@ -216,7 +218,8 @@ def project_to_line(x: numpy.typing.ArrayLike, data: numpy.typing.ArrayLike, b: 
 
     The positions are lo, lo + dx, ... with dx = (greatest `x` - lo) / `n_points`: they start at the
     least `x` and end one step short of the greatest. A sample at distance d has the weight
-    exp(-(d `b` / dx)^`power_a`). Where all samples share one position, values are 0.
+    exp(-(d `b` / dx)^`power_a`). Where all samples share one position there is no step, and values are 0
+    (with a `power_a` of 0 their mean).
 
     Parameters
     ----------

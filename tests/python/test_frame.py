@@ -92,7 +92,9 @@ def test_a_forked_child_on_one_thread_does_not_hang():
 
         def work(n):
             kriged = gravelox.compute_ordinary_kriging(locs + 0.5, *rest, n_threads=n)
-            return kriged, np.array(sphere.forward(locs, n)).tolist()
+            spectrum = gravelox.fft.SpectralData1D.forward(locs[:, 0])
+            series = np.round(spectrum.backward(), 6).tolist()
+            return kriged, np.array(sphere.forward(locs, n)).tolist(), series
 
         parent = work(2)
         child = os.fork()
