@@ -45,9 +45,9 @@ class Figure:
 class Bench:
     """What the benchmarks share: sizes, points and ways to time."""
 
-    def __init__(self, kernels, quick):
+    def __init__(self, kernels, quick, repetitions=None):
         self.kernels = kernels
-        self.repetitions = 3 if quick else 9
+        self.repetitions = repetitions or (3 if quick else 9)
         self.n_targets = 20_000 if quick else 100_000
         self.n_boundary = 100_000 if quick else 1_000_000
         self.samples = uniform_points(N_SAMPLES, SAMPLE_SEED)

@@ -54,6 +54,7 @@ def main():
     parser.add_argument("names", nargs="*", metavar="NAME", help=", ".join(BENCHMARKS))
     parser.add_argument("--kernels", metavar="PATH", help="the program made from kernels.cpp")
     parser.add_argument("--quick", action="store_true", help="smaller sizes, fewer repetitions")
+    parser.add_argument("--repetitions", metavar="N", type=int, help="rounds of each figure (9)")
     arguments = parser.parse_args()
     unknown = set(arguments.names) - set(BENCHMARKS)
     if unknown:
@@ -62,7 +63,8 @@ def main():
     figures = []
     for name in arguments.names or BENCHMARKS:
         try:
-            figure = BENCHMARKS[name](Bench(arguments.kernels, arguments.quick))
+            bench = Bench(arguments.kernels, arguments.quick, arguments.repetitions)
+            figure = BENCHMARKS[name](bench)
         except Skipped as reason:
             print(f"{name}: skipped, {reason}")
             continue
