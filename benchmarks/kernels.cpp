@@ -280,7 +280,7 @@ BENCHMARK(ordinary_kriging)->MinTime(min_seconds);
 BENCHMARK(inverse_distance)->MinTime(min_seconds);
 BENCHMARK(query)->MinTime(min_seconds)->Arg(20000)->Arg(100000);
 BENCHMARK(tree)->MinTime(min_seconds)->Arg(20000)->Arg(100000);
-BENCHMARK(transforms)->MinTime(min_seconds)->Arg(192)->Arg(255);
+BENCHMARK(transforms)->MinTime(min_seconds)->Arg(128)->Arg(192)->Arg(255);
 BENCHMARK(pairs)->MinTime(min_seconds)->Arg(0)->Arg(1)->Arg(4);
 
 }  // namespace

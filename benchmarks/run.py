@@ -20,11 +20,18 @@ for library in ("OMP", "OPENBLAS", "MKL", "BLIS", "NUMBA"):
 
 import estimation_figures  # noqa: E402
 import grid_variogram_figures  # noqa: E402
+import simulation_figures  # noqa: E402
 import spatial_figures  # noqa: E402
 import variogram_figures  # noqa: E402
 from harness import Bench, Skipped  # noqa: E402
 
-FAMILIES = (estimation_figures, spatial_figures, grid_variogram_figures, variogram_figures)
+FAMILIES = (
+    estimation_figures,
+    spatial_figures,
+    grid_variogram_figures,
+    variogram_figures,
+    simulation_figures,
+)
 BENCHMARKS = {figure.__name__: figure for family in FAMILIES for figure in family.FIGURES}
 
 

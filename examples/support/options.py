@@ -10,7 +10,7 @@ from pathlib import Path
 
 def parse_arguments(description: str) -> argparse.Namespace:
     parser = argparse.ArgumentParser(description=description)
-    _add_files(parser, Path("block_model"))
+    add_files(parser, Path("block_model"))
     _add_model(parser)
     _add_blocks(parser)
     return parser.parse_args()
@@ -18,7 +18,7 @@ def parse_arguments(description: str) -> argparse.Namespace:
 
 def parse_variography_arguments(description: str) -> argparse.Namespace:
     parser = argparse.ArgumentParser(description=description)
-    _add_files(parser, Path("variography"))
+    add_files(parser, Path("variography"))
     add = parser.add_argument
     add("--log", action="store_true", help="take the logarithm of the values")
     add("--unit", default="m", help="length unit, for the pictures (%(default)s)")
@@ -26,7 +26,8 @@ def parse_variography_arguments(description: str) -> argparse.Namespace:
     return parser.parse_args()
 
 
-def _add_files(parser: argparse.ArgumentParser, out: Path) -> None:
+def add_files(parser: argparse.ArgumentParser, out: Path) -> None:
+    """The options of all examples that read samples."""
     add = parser.add_argument
     add("csv", nargs="?", type=Path, help="samples with a header; without: an elevation model")
     add("--x", default="x", help="column of x (%(default)s)")

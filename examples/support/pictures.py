@@ -74,7 +74,7 @@ def draw_maps(
     for spot in axes.flat:
         spot.set(xlabel=samples.axes[0], ylabel=samples.axes[1], aspect="equal")
         spot.label_outer()
-    _save(figure, path)
+    save_figure(figure, path)
 
 
 def draw_sections(path: Path, samples: Samples, blocks: Blocks, estimates: Estimates) -> None:
@@ -96,7 +96,7 @@ def draw_sections(path: Path, samples: Samples, blocks: Blocks, estimates: Estim
             coloured = title == "estimate"
             drawn = _cut(spots[name], normal, samples, blocks, values, shade, coloured)
         _colour_bar(half, drawn, shade, list(spots.values()))
-    _save(figure, path)
+    save_figure(figure, path)
 
 
 def _cut(
@@ -171,6 +171,7 @@ def _colour_bar(figure: FigureBase, drawn: ScalarMappable, shade: Shade, axes: l
     figure.colorbar(drawn, ax=axes, label=shade.label, extend="both", shrink=0.9, aspect=30)
 
 
-def _save(figure: Figure, path: Path) -> None:
+def save_figure(figure: Figure, path: Path) -> None:
+    """Writes and closes it."""
     figure.savefig(path, dpi=110)
     plt.close(figure)

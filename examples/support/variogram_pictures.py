@@ -16,11 +16,12 @@ import matplotlib.pyplot as plt
 import numpy as np
 from matplotlib.axes import Axes
 from matplotlib.cm import ScalarMappable
-from matplotlib.figure import Figure, FigureBase
+from matplotlib.figure import FigureBase
 from matplotlib.ticker import MaxNLocator
 
 from support.directional import Directional, Lags, line_text
 from support.nested import Nested
+from support.pictures import save_figure
 from support.samples import Array, InputError
 from support.variogram_maps import Map
 
@@ -63,7 +64,7 @@ def draw_directional(
         spot.legend(loc="lower right", fontsize=8)
     top = max(variance, *(curve.smooth.values.max() for curve in curves))
     spots[0, 0].set(ylabel=labels.value, ylim=(0, 1.3 * top))
-    _save(figure, path)
+    save_figure(figure, path)
 
 
 def draw_maps(path: Path, maps: Sequence[Map], axes: Array, flat: bool, labels: Labels) -> None:
@@ -79,7 +80,7 @@ def draw_maps(path: Path, maps: Sequence[Map], axes: Array, flat: bool, labels: 
         half.suptitle(one.title)
         spots = list(np.atleast_1d(half.subplots(1, len(planes))))
         _draw_map(half, spots, one, planes, axes, labels)
-    _save(figure, path)
+    save_figure(figure, path)
 
 
 def _draw_map(
@@ -131,8 +132,3 @@ def _draw_axes(spot: Axes, axes: Array, plane: tuple[int, int, int]) -> None:
             spot.plot(x, y, style, color="white", label=f"{name} axis")
     if spot.lines:
         spot.legend(loc="upper right", fontsize=8, labelcolor="white", facecolor="0.3")
-
-
-def _save(figure: Figure, path: Path) -> None:
-    figure.savefig(path, dpi=110)
-    plt.close(figure)

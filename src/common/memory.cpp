@@ -9,7 +9,7 @@
 
 namespace gravelox {
 
-void check_grid_memory(std::string_view name, const std::array<int, 3>& sizes, int n_arrays) {
+void check_grid_memory(std::string_view name, const std::array<int, 3>& sizes, double n_arrays) {
   const double n_cells = static_cast<double>(sizes[0]) * sizes[1] * sizes[2];
   const double memory =
       static_cast<double>(sysconf(_SC_PHYS_PAGES)) * static_cast<double>(sysconf(_SC_PAGE_SIZE));

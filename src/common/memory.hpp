@@ -11,6 +11,6 @@ namespace gravelox {
 
 /// Throws std::invalid_argument where `n_arrays` arrays of doubles of these sizes (none below 1)
 /// need more than the machine's memory; the message tells the sizes.
-void check_grid_memory(std::string_view name, const std::array<int, 3>& sizes, int n_arrays);
+void check_grid_memory(std::string_view name, const std::array<int, 3>& sizes, double n_arrays);
 
 }  // namespace gravelox

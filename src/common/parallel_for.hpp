@@ -21,6 +21,9 @@ inline std::size_t n_thread_slots(int n_threads) {
   return static_cast<std::size_t>(std::max(check_n_threads(n_threads), 1));
 }
 
+/// The number of the calling thread in the innermost parallel region, 0 outside of all.
+inline int current_thread_number() { return omp_get_thread_num(); }
+
 /// Keeps the exception of the lowest index among those thrown by the iterations of a loop.
 class first_exception {
  public:

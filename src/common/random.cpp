@@ -13,6 +13,13 @@ constexpr double two_log_two = 1.3862943611198906;
 
 }  // namespace
 
+std::vector<random_engine> create_engines(std::size_t n, random_engine& master) {
+  std::vector<random_engine> engines;
+  engines.reserve(n);
+  for (std::size_t i = 0; i < n; ++i) engines.emplace_back(master());
+  return engines;
+}
+
 double normal_distribution::from_point(double v1, double& v2) {
   double s = v1 * v1 + v2 * v2;
   double log_s = 0.0;

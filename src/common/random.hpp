@@ -23,6 +23,9 @@ inline random_engine create_engine(std::int64_t seed) {
   return random_engine(static_cast<std::uint32_t>(seed));
 }
 
+/// n engines, one a thread as a rule, each seeded with the next word of the master.
+std::vector<random_engine> create_engines(std::size_t n, random_engine& master);
+
 /// A uniform in [0, 1) with 53 random bits, from two words a, b: ((b << 21) + (a >> 11)) * 2^-53.
 inline double uniform01(random_engine& engine) {
   const std::uint64_t a = engine();

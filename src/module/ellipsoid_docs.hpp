@@ -32,6 +32,34 @@ float
     The value, in data units.
 )";
 
+constexpr const char* spatial_function_call_list = R"(
+Values at many locations, in parallel.
+
+Parameters
+----------
+locations : array_like of shape (n, 3)
+    Coordinates (x, y, z) in length units; for a covariance model, lag vectors.
+n_threads : int
+    Threads; 0 means all. Values do not depend on it, white noise (a nugget) of a field excepted.
+
+Returns
+-------
+list of float
+    One value for each location in order, in data units.
+
+Raises
+------
+ValueError
+    If a coordinate is not finite.
+
+Examples
+--------
+>>> import gravelox
+>>> f = gravelox.covariance_computer([gravelox.Covariance.nugget(2.0)])
+>>> f([(0, 0, 0), (1, 0, 0)])
+[2.0, 0.0]
+)";
+
 constexpr const char* ellipsoid_info = R"(
 Ranges and angles of an ellipsoid, as read off its matrix by `Ellipsoid.info`.
 

@@ -57,9 +57,9 @@ void bind_estimations(py::module_& m) {
 }  // namespace
 
 void register_estimation_module(py::module_& m) {
-  py::class_<Estimator>(m, "Estimator", docs::estimator)
-      .def("__call__", &Estimator::operator(), arg("target_locs"), arg("neighborhood"),
-           arg("data_locs"), arg("data"), arg("n_threads") = 0, docs::estimator_call);
+  place_class<Estimator>(m).def("__call__", &Estimator::operator(), arg("target_locs"),
+                                arg("neighborhood"), arg("data_locs"), arg("data"),
+                                arg("n_threads") = 0, docs::estimator_call);
   bind_idw(m);
   bind_kriging_estimators(m);
   bind_estimations(m);

@@ -12,8 +12,27 @@ void register_frame_module(py::module_& m);
 void register_spatial_module(py::module_& m);
 void register_covariance_module(py::module_& m);
 void register_grid_module(py::module_& m);
+void register_simulation_module(py::module_& m);
+void register_distribution_module(py::module_& m);
 void register_estimation_module(py::module_& m);
 void register_variography_module(py::module_& m);
+void register_optimization_module(py::module_& m);
 void register_spectra_module(py::module_& m);
+
+/// Registers a class before the place of its name: a signature prints the Python name only of a
+/// class that is registered. It stays alive until place_class.
+template <typename T>
+void register_early(py::module_& m, const char* name, const char* doc) {
+  py::class_<T>(m, name, doc).inc_ref();
+  py::delattr(m, name);
+}
+
+/// Puts such a class in its place among the names of the module.
+template <typename T>
+py::class_<T> place_class(py::module_& m) {
+  auto placed = py::reinterpret_borrow<py::class_<T>>(py::type::of<T>());
+  m.attr(placed.attr("__name__")) = placed;
+  return placed;
+}
 
 }  // namespace gravelox

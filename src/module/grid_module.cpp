@@ -97,9 +97,7 @@ void register_grid_module(py::module_& m) {
   // All classes first: a signature prints the Python name only of a class that is registered.
   py::class_<CartesianGrid> grid(m, "CartesianGrid", docs::grid);
   py::class_<BlockModel> blocks(m, "BlockModel", docs::block_model);
-  // That of the box is, since the spatial family.
-  auto box = py::reinterpret_borrow<py::class_<BoundingBox>>(py::type::of<BoundingBox>());
-  m.attr("BoundingBox") = box;
+  py::class_<BoundingBox> box = place_class<BoundingBox>(m);
   bind_cartesian_grid(grid);
   bind_block_model(blocks);
   bind_bounding_box(box);

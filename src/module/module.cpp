@@ -15,7 +15,10 @@ PYBIND11_MODULE(gravelox, m) {
   gravelox::register_spatial_module(m);
   gravelox::register_covariance_module(m);
   gravelox::register_grid_module(m);
+  gravelox::register_simulation_module(m);
+  gravelox::register_distribution_module(m);
   gravelox::register_estimation_module(m);
   gravelox::register_variography_module(m);
+  gravelox::register_optimization_module(m);
   gravelox::register_spectra_module(m);
 }

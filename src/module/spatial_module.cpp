@@ -66,7 +66,9 @@ std::vector<Ellipsoid> ellipsoids(double min_range, double max_range, int n_rays
 
 void bind_spatial_function(py::module_& m) {
   py::class_<SpatialFunction>(m, "SpatialFunction", docs::spatial_function)
-      .def("__call__", &SpatialFunction::operator(), arg("location"), docs::spatial_function_call);
+      .def("__call__", &SpatialFunction::operator(), arg("location"), docs::spatial_function_call)
+      .def("__call__", &evaluate, arg("locations"), arg("n_threads") = 0,
+           docs::spatial_function_call_list);
 }
 
 void bind_ellipsoid_info(py::module_& m) {
@@ -172,10 +174,7 @@ void bind_dynamic_neighborhood(py::module_& m) {
 }
 
 void bind_rotation_sampling(py::module_& m) {
-  // A signature prints the Python name only of a class that is registered: the box comes first, and
-  // takes its place among the names of the module with its own family. Until then this reference
-  // alone keeps it alive.
-  py::class_<BoundingBox>(m, "BoundingBox", docs::bounding_box).inc_ref();
+  register_early<BoundingBox>(m, "BoundingBox", docs::bounding_box);
   m.def("optimize_rotation", &rotation_of_least_box, arg("locations"), arg("sample_size") = 30000,
         arg("n_iterations") = 20000, arg("n_threads") = 0, arg("seed") = 12356,
         arg("use_fixed_samples") = true, arg("n_rays") = 600, docs::optimize_rotation);
@@ -185,7 +184,6 @@ void bind_rotation_sampling(py::module_& m) {
         docs::generate_rotations);
   m.def("generate_ellipsoids", &ellipsoids, arg("min_range"), arg("max_range"), arg("n_rays"),
         arg("n_scales"), arg("seed"), arg("tol"), docs::generate_ellipsoids);
-  py::delattr(m, "BoundingBox");
 }
 
 }  // namespace

@@ -93,6 +93,11 @@ location CartesianGrid::location_of(int i, int j, int k) const {
   return origin_ + transformation_.backward(fraction);
 }
 
+location CartesianGrid::cell_coordinates(const location& point) const {
+  const location fraction = transformation_.forward(point - origin_);
+  return fraction.cwiseQuotient(as_location(counts_).cwiseInverse());
+}
+
 location_list CartesianGrid::locations() const {
   const auto [nx, ny, nz] = counts_;
   location_list all;

@@ -55,6 +55,10 @@ class CartesianGrid {
 
   const cell_triple& number_of_cells() const { return counts_; }
 
+  /// Where a location lies, counted in cells from the origin along each axis; inside the grid the
+  /// whole parts are its cell's indices.
+  location cell_coordinates(const location& point) const;
+
   /// The map from real coordinates relative to the origin to the unit cube.
   const Ellipsoid& transformation() const { return transformation_; }
 

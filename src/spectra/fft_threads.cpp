@@ -2,6 +2,7 @@
 #include "spectra/fft_threads.hpp"
 
 #include <fftw3.h>
+#include <omp.h>
 #include <pthread.h>
 
 #include "common/threads.hpp"
@@ -31,6 +32,13 @@ void ready_fft_threads() {
 void set_fft_n_threads(int n_threads) {
   const std::lock_guard lock(fft_mutex());
   ready_fft_threads();
+  fftw_plan_with_nthreads(check_n_threads(n_threads));
+}
+
+void set_up_fft(int n_threads) {
+  const std::lock_guard lock(fft_mutex());
+  ready_fft_threads();
+  omp_set_num_threads(check_n_threads(n_threads));
   fftw_plan_with_nthreads(check_n_threads(n_threads));
 }
 

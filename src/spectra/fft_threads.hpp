@@ -18,4 +18,8 @@ void ready_fft_threads();
 /// Sets the number of threads of plans made from now on to check_n_threads(n_threads).
 void set_fft_n_threads(int n_threads = 0);
 
+/// The same, and for parallel regions that do not ask for a number as well; hold fft_mutex while
+/// the transforms that it is for are planned.
+void set_up_fft(int n_threads);
+
 }  // namespace gravelox

@@ -43,10 +43,10 @@ CartesianGrid working_grid(const location_list& corners, const cell_triple& coun
 /// below the grid counts as in its first cell.
 int cell_of(const location& point, const CartesianGrid& grid) {
   const auto [nx, ny, nz] = grid.number_of_cells();
-  const location q = grid.transformation().forward(point - grid.origin());
-  const double i = std::trunc(q.x() / (1.0 / nx));
-  const double j = std::trunc(q.y() / (1.0 / ny));
-  const double k = std::trunc(q.z() / (1.0 / nz));
+  const location cell = grid.cell_coordinates(point);
+  const double i = std::trunc(cell.x());
+  const double j = std::trunc(cell.y());
+  const double k = std::trunc(cell.z());
   if (!(i >= 0.0 && i < nx && j >= 0.0 && j < ny && k >= 0.0 && k < nz)) return -1;
   return grid.index(static_cast<int>(i), static_cast<int>(j), static_cast<int>(k));
 }

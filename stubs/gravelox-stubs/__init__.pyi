@@ -3,7 +3,7 @@ import numpy
 import numpy.typing
 import typing
 from . import fft
-__all__: list[str] = ['BlockModel', 'BoundingBox', 'CartesianGrid', 'Covariance', 'Direction', 'DynamicNeighborhood', 'Ellipsoid', 'EllipsoidInfo', 'Estimator', 'ExperimentalVariogram', 'IDW', 'Kernel', 'Neighborhood', 'OrdinaryKriging', 'Rotation', 'SimpleKriging', 'SpatialFunction', 'check_n_threads', 'compute_exp_variogram', 'compute_ordinary_kriging', 'compute_simple_kriging', 'compute_variogram', 'covariance_computer', 'create_random_drillholes', 'extract_ellipsoid_info', 'extreme_points', 'fft', 'generate_covariances', 'generate_ellipsoids', 'generate_random_semisphere', 'generate_random_sphere', 'generate_rotations', 'moving_window_estimation', 'optimize_rotation', 'orthogonolize_axes', 'set_fft_n_threads', 'smooth_variogram', 'sort_matrix3d', 'variogram_computer']
+__all__: list[str] = ['BlockModel', 'BoundingBox', 'CDF', 'CartesianGrid', 'Covariance', 'Direction', 'Distribution', 'DynamicNeighborhood', 'Ellipsoid', 'EllipsoidInfo', 'Estimator', 'ExperimentalVariogram', 'FIM', 'IDW', 'Kernel', 'LocalCovariances', 'NScore', 'Neighborhood', 'OrdinaryKriging', 'PDF', 'RNG', 'Rotation', 'SimpleKriging', 'SimulatorFactory', 'SimulatorGenerator', 'SpatialFunction', 'TBSIM', 'cauchy_distribution', 'check_n_threads', 'chi_squared_distribution', 'compute_exp_variogram', 'compute_ordinary_kriging', 'compute_simple_kriging', 'compute_variogram', 'covariance_computer', 'create_random_drillholes', 'data_distribution', 'exponential_distribution', 'extract_ellipsoid_info', 'extreme_points', 'extreme_value_distribution', 'fft', 'fisher_f_distribution', 'gamma_distribution', 'gaussian_distribution', 'generate_covariances', 'generate_ellipsoids', 'generate_random_semisphere', 'generate_random_sphere', 'generate_rotations', 'lognormal_distribution', 'moving_window_estimation', 'optimize_rotation', 'orthogonolize_axes', 'set_fft_n_threads', 'simulate', 'simulator', 'smooth_variogram', 'sort_matrix3d', 'student_t_distribution', 'unconditional_ensemble_simulation', 'uniform_distribution', 'variogram_computer', 'weibull_distribution']
 class BlockModel:
     """
 
@@ -214,6 +214,110 @@ class BoundingBox:
         -------
         ndarray of shape (3,)
             Length units.
+        """
+class CDF:
+    """
+
+    The distribution function and the quantiles of a distribution.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> cdf = gravelox.CDF(gravelox.gaussian_distribution(10.0, 2.0))
+    >>> round(cdf.value(10.0), 4), round(cdf.prob(0.975), 4)
+    (0.5, 13.9199)
+    """
+    def __init__(self, dist: Distribution) -> None:
+        """
+        View a distribution by its distribution function.
+
+        Parameters
+        ----------
+        dist : Distribution
+            The distribution.
+        """
+    def prob(self, p: float) -> float:
+        """
+        The quantile of a probability.
+
+        Parameters
+        ----------
+        p : float
+            The probability. Parametric distributions hold it within 1e-16 and 0.9999999999999999. A data
+            distribution takes any number: beyond its table it goes on in straight lines.
+
+        Returns
+        -------
+        float
+            The value that is not exceeded with the probability, in data units.
+
+        Raises
+        ------
+        ValueError
+            If the probability is NaN, for parametric distributions.
+        OverflowError
+            If the value does not fit into a float, as for some gamma and Student distributions.
+        """
+    def probs(self, list: numpy.typing.ArrayLike, n_threads: int = 0) -> list[float]:
+        """
+        Quantiles of many probabilities, in parallel.
+
+        Parameters
+        ----------
+        list : list of float
+            Probabilities. Parametric distributions hold them within 1e-16 and 0.9999999999999999. A data
+            distribution takes any numbers: beyond its table it goes on in straight lines.
+        n_threads : int
+            Threads; 0 means all. The result does not depend on it.
+
+        Returns
+        -------
+        list of float
+            A quantile for each probability, in data units.
+        """
+    def value(self, x: float) -> float:
+        """
+        The probability of a value or less.
+
+        Parameters
+        ----------
+        x : float
+            The value, in data units.
+
+        Returns
+        -------
+        float
+            The probability. A data distribution goes on in straight lines beyond its values, below 0 and
+            above 1 as well.
+
+        Raises
+        ------
+        ValueError
+            If the value is outside the support of a lognormal, F, chi-squared, Weibull, exponential or
+            gamma distribution.
+        """
+    def values(self, list: numpy.typing.ArrayLike, n_threads: int = 0) -> list[float]:
+        """
+        Probabilities of many values, in parallel.
+
+        Parameters
+        ----------
+        list : list of float
+            Values, in data units.
+        n_threads : int
+            Threads; 0 means all. The result does not depend on it.
+
+        Returns
+        -------
+        list of float
+            A probability for each value. A data distribution goes on in straight lines beyond its values,
+            below 0 and above 1 as well.
+
+        Raises
+        ------
+        ValueError
+            If a value is outside the support of a lognormal, F, chi-squared, Weibull, exponential or
+            gamma distribution.
         """
 class CartesianGrid:
     """
@@ -565,6 +669,153 @@ class Covariance:
         -------
         str
             "spherical", "gaussian", "exponential", "nugget" or "idw".
+        """
+class Distribution:
+    """
+
+    A distribution of one variable, parametric or that of samples.
+
+    Instances come from the functions whose names end in `_distribution`. `PDF` and `CDF` give its
+    density, its distribution function and its quantiles. Every draw is the quantile of a uniform
+    number.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> gaussian = gravelox.gaussian_distribution(10.0, 2.0)
+    >>> draws = gaussian.simulate(10000)
+    >>> round(sum(draws) / len(draws))
+    10
+    """
+    def __call__(self, rng: RNG) -> float:
+        """
+        One draw, which moves the engine on.
+
+        Parameters
+        ----------
+        rng : RNG
+            The engine. No two threads may use it at once.
+
+        Returns
+        -------
+        float
+            The draw, in data units.
+        """
+    def cdf(self, n: int, seed: int = 12515) -> tuple[list[float], list[float]]:
+        """
+        Empirical distribution function of draws.
+
+        It is exclusive: each draw stands beside the share of draws before it.
+
+        Parameters
+        ----------
+        n : int
+            How many draws.
+        seed : int
+            Seed of the engine.
+
+        Returns
+        -------
+        values : list of float
+            The draws in ascending order, in data units.
+        probs : list of float
+            0, 1 / n, 2 / n and so on.
+
+        Raises
+        ------
+        ValueError
+            If `n` is negative.
+
+        Examples
+        --------
+        >>> import gravelox
+        >>> values, probs = gravelox.gaussian_distribution().cdf(4)
+        >>> values == sorted(values), probs
+        (True, [0.0, 0.25, 0.5, 0.75])
+        """
+    def histogram(self, n: int, seed: int = 12515) -> list[float]:
+        """
+        The draws of `simulate` in ascending order.
+
+        Parameters
+        ----------
+        n : int
+            How many draws.
+        seed : int
+            Seed of the engine.
+
+        Returns
+        -------
+        list of float
+            The draws, in data units.
+
+        Raises
+        ------
+        ValueError
+            If `n` is negative.
+        """
+    @typing.overload
+    def simulate(self, n: int, seed: int = 12515) -> list[float]:
+        """
+        Draw from one engine.
+
+        This overload takes a second number by position, as the seed: `simulate(5, 1)` has the seed 1. To
+        draw in parallel, name `n_threads` or give all three numbers.
+
+        Parameters
+        ----------
+        n : int
+            How many draws.
+        seed : int
+            Seed of the engine.
+
+        Returns
+        -------
+        list of float
+            The draws in order, in data units.
+
+        Raises
+        ------
+        ValueError
+            If `n` is negative.
+
+        Examples
+        --------
+        >>> import gravelox
+        >>> gaussian = gravelox.gaussian_distribution()
+        >>> gaussian.simulate(5, 1) == gaussian.simulate(5, seed=1)
+        True
+        """
+    @typing.overload
+    def simulate(self, n: int, n_threads: int = 0, seed: int = 12515) -> list[float]:
+        """
+        Draw in parallel, each thread from an engine of its own.
+
+        Parameters
+        ----------
+        n : int
+            How many draws.
+        n_threads : int
+            Threads; 0 means all. Draws repeat only for an equal number.
+        seed : int
+            Seed of the engines.
+
+        Returns
+        -------
+        list of float
+            The draws, in data units.
+
+        Raises
+        ------
+        ValueError
+            If `n` is negative.
+
+        Examples
+        --------
+        >>> import gravelox
+        >>> gaussian = gravelox.gaussian_distribution()
+        >>> gaussian.simulate(5, n_threads=2) == gaussian.simulate(5, 2, 12515)
+        True
         """
 class DynamicNeighborhood:
     """
@@ -1295,6 +1546,191 @@ class Kernel:
         float
             1 at distance 0 for the named shapes.
         """
+class LocalCovariances:
+    """
+
+    Covariance models that hold around centres, each with its error.
+
+    The three lists run parallel. Reading one gives a copy: to change it, assign a whole list.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> steep = gravelox.Covariance.spherical(1.0, gravelox.Ellipsoid(60, 40, 20, 30, -60, 0))
+    >>> flat = gravelox.Covariance.spherical(1.0, gravelox.Ellipsoid(60, 40, 20, 30, 0, 0))
+    >>> local = gravelox.LocalCovariances([(0, 0, 0), (100, 0, 0)], [[steep], [flat]], [1.0, 0.5])
+    >>> local.errors
+    [1.0, 0.5]
+    """
+    def __init__(self, centers: numpy.typing.ArrayLike, covariances: list[list[Covariance]], errors: numpy.typing.ArrayLike) -> None:
+        """
+        Make a set of local models.
+
+        Parameters
+        ----------
+        centers : array_like of shape (n, 3)
+            Where the models hold, in metres or another length unit.
+        covariances : list of list of Covariance
+            A model for each centre.
+        errors : sequence of float of length n
+            The error of each model, above 0. It multiplies distances to the centre where models are
+            blended: the greater it is, the less the model weighs.
+
+        Raises
+        ------
+        ValueError
+            If the lists differ in length or a centre is not finite.
+        """
+    @property
+    def centers(self) -> list[numpy.ndarray[numpy.float64[3, 1]]]:
+        """
+        Where the models hold: a list of numpy.ndarray of shape (3,), in length units.
+        """
+    @centers.setter
+    def centers(self, arg0: numpy.typing.ArrayLike) -> None:
+        ...
+    @property
+    def covariances(self) -> list[list[Covariance]]:
+        """
+        The models: a list of Covariance for each centre.
+        """
+    @covariances.setter
+    def covariances(self, arg0: list[list[Covariance]]) -> None:
+        ...
+    @property
+    def errors(self) -> list[float]:
+        """
+        The error of each model, which multiplies distances to its centre.
+        """
+    @errors.setter
+    def errors(self, arg0: numpy.typing.ArrayLike) -> None:
+        ...
+class NScore:
+    """
+
+    A map of one distribution onto another, such as samples onto the Gaussian: the normal score.
+
+    A value goes through the distribution function of one and the quantile of the other, so order is
+    kept. Equal samples share one score. Tails are those of the two distributions, see
+    `data_distribution`.
+
+    References
+    ----------
+    Journel, A. G. and Huijbregts, C. J. (1978). Mining Geostatistics. Academic Press.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> scores = gravelox.NScore(
+    ...     gravelox.data_distribution([1.0, 2.0, 4.0, 8.0]), gravelox.gaussian_distribution())
+    >>> [round(score, 4) for score in scores.forward([2.0, 8.0])]
+    [-0.6745, 0.6745]
+    >>> round(scores.backward(0.6745), 3)
+    8.0
+    """
+    def __init__(self, source: Distribution, target: Distribution) -> None:
+        """
+        Pair two distributions.
+
+        Parameters
+        ----------
+        source : Distribution
+            The distribution of the values, by `data_distribution` for a normal score.
+        target : Distribution
+            The distribution of the scores, `gaussian_distribution()` for a normal score.
+        """
+    @typing.overload
+    def backward(self, y: float) -> float:
+        """
+        The value of a score.
+
+        Scores above that of the greatest sample give values beyond it, along a straight line.
+
+        Parameters
+        ----------
+        y : float
+            The score.
+
+        Returns
+        -------
+        float
+            The value, in data units.
+
+        Examples
+        --------
+        >>> import gravelox
+        >>> scores = gravelox.NScore(
+        ...     gravelox.data_distribution([1.0, 2.0, 4.0, 8.0]), gravelox.gaussian_distribution())
+        >>> round(scores.backward(scores.forward(3.0)), 6)
+        3.0
+        """
+    @typing.overload
+    def backward(self, y: numpy.typing.ArrayLike, n_threads: int = 0) -> list[float]:
+        """
+        Values of many scores, in parallel.
+
+        Scores above that of the greatest sample give values beyond it, along a straight line.
+
+        Parameters
+        ----------
+        y : list of float
+            Scores.
+        n_threads : int
+            Threads; 0 means all. The result does not depend on it.
+
+        Returns
+        -------
+        list of float
+            A value for each score, in data units.
+        """
+    @typing.overload
+    def forward(self, x: float) -> float:
+        """
+        The score of a value.
+
+        Scores of values up to the least sample are that of the probability 1e-16, -8.22 for the standard
+        Gaussian, that of the least sample included. The score of the greatest sample is that of 1 less its
+        weight; above it scores rise up to 8.21, that of 0.9999999999999999.
+
+        Parameters
+        ----------
+        x : float
+            The value, in data units.
+
+        Returns
+        -------
+        float
+            The score.
+
+        Examples
+        --------
+        >>> import gravelox
+        >>> scores = gravelox.NScore(
+        ...     gravelox.data_distribution([1.0, 2.0, 4.0, 8.0]), gravelox.gaussian_distribution())
+        >>> round(scores.forward(1.0), 2), round(scores.forward(-100.0), 2)
+        (-8.22, -8.22)
+        """
+    @typing.overload
+    def forward(self, x: numpy.typing.ArrayLike, n_threads: int = 0) -> list[float]:
+        """
+        Scores of many values, in parallel.
+
+        Scores of values up to the least sample are that of the probability 1e-16, -8.22 for the standard
+        Gaussian, that of the least sample included. The score of the greatest sample is that of 1 less its
+        weight; above it scores rise up to 8.21, that of 0.9999999999999999.
+
+        Parameters
+        ----------
+        x : list of float
+            Values, in data units.
+        n_threads : int
+            Threads; 0 means all. The result does not depend on it.
+
+        Returns
+        -------
+        list of float
+            A score for each value.
+        """
 class Neighborhood:
     """
 
@@ -1410,6 +1846,759 @@ class Neighborhood:
         ValueError
             If nothing is stored or a coordinate is not finite.
         """
+class PDF:
+    """
+
+    The density and the quantiles of a distribution.
+
+    Of a data distribution the density is a mass and does not integrate to 1: half the weight between
+    the neighbours of a value in the table.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> pdf = gravelox.PDF(gravelox.gaussian_distribution(10.0, 2.0))
+    >>> round(pdf.value(10.0), 4), round(pdf.median(), 4), round(pdf.q90(), 4)
+    (0.1995, 10.0, 12.5631)
+    """
+    def __init__(self, dist: Distribution) -> None:
+        """
+        View a distribution by its density.
+
+        Parameters
+        ----------
+        dist : Distribution
+            The distribution.
+        """
+    def max(self) -> float:
+        """
+        The quantile of 0.9999999999999999, which is finite without an upper bound too.
+
+        Returns
+        -------
+        float
+            In data units. That of a data distribution lies beyond its greatest value.
+        """
+    def median(self) -> float:
+        """
+        The quantile of 0.5.
+
+        Returns
+        -------
+        float
+            In data units.
+        """
+    def min(self) -> float:
+        """
+        The quantile of 1e-16, which is finite without a lower bound too.
+
+        Returns
+        -------
+        float
+            In data units; the least value of a data distribution.
+        """
+    def prob(self, p: float) -> float:
+        """
+        The quantile of a probability.
+
+        Parameters
+        ----------
+        p : float
+            The probability. Parametric distributions hold it within 1e-16 and 0.9999999999999999. A data
+            distribution takes any number: beyond its table it goes on in straight lines.
+
+        Returns
+        -------
+        float
+            The value that is not exceeded with the probability, in data units.
+
+        Raises
+        ------
+        ValueError
+            If the probability is NaN, for parametric distributions.
+        OverflowError
+            If the value does not fit into a float, as for some gamma and Student distributions.
+        """
+    def probs(self, list: numpy.typing.ArrayLike, n_threads: int = 0) -> list[float]:
+        """
+        Quantiles of many probabilities, in parallel.
+
+        Parameters
+        ----------
+        list : list of float
+            Probabilities. Parametric distributions hold them within 1e-16 and 0.9999999999999999. A data
+            distribution takes any numbers: beyond its table it goes on in straight lines.
+        n_threads : int
+            Threads; 0 means all. The result does not depend on it.
+
+        Returns
+        -------
+        list of float
+            A quantile for each probability, in data units.
+        """
+    def q75(self) -> float:
+        """
+        The quantile of 0.75.
+
+        Returns
+        -------
+        float
+            In data units.
+        """
+    def q90(self) -> float:
+        """
+        The quantile of 0.9.
+
+        Returns
+        -------
+        float
+            In data units.
+        """
+    def value(self, x: float) -> float:
+        """
+        The density at a value.
+
+        Parameters
+        ----------
+        x : float
+            The value, in data units.
+
+        Returns
+        -------
+        float
+            The density, in units of 1 / data units; the mass at the value for a data distribution.
+
+        Raises
+        ------
+        ValueError
+            If the value is outside the support of a lognormal, F, chi-squared, Weibull, exponential or
+            gamma distribution.
+        """
+    def values(self, list: numpy.typing.ArrayLike, n_threads: int = 0) -> list[float]:
+        """
+        Densities at many values, in parallel.
+
+        Parameters
+        ----------
+        list : list of float
+            Values, in data units.
+        n_threads : int
+            Threads; 0 means all. The result does not depend on it.
+
+        Returns
+        -------
+        list of float
+            A density for each value, in units of 1 / data units; masses for a data distribution.
+
+        Raises
+        ------
+        ValueError
+            If a value is outside the support of a lognormal, F, chi-squared, Weibull, exponential or
+            gamma distribution.
+        """
+class RNG:
+    """
+
+    A random engine, the 32-bit Mersenne Twister, that distributions draw from.
+
+    References
+    ----------
+    Matsumoto, M. and Nishimura, T. (1998). Mersenne Twister: a 623-dimensionally equidistributed
+    uniform pseudo-random number generator. ACM Transactions on Modeling and Computer Simulation 8,
+    3-30.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> uniform = gravelox.uniform_distribution(0, 10)
+    >>> rng = gravelox.RNG(7)
+    >>> first, second = uniform(rng), uniform(rng)
+    >>> first == second, first == uniform(gravelox.RNG(7))
+    (False, True)
+    """
+    def __init__(self, seed: int) -> None:
+        """
+        Make an engine from a seed.
+
+        Parameters
+        ----------
+        seed : int
+            The seed; a negative one counts modulo 2^32.
+        """
+class SimulatorFactory:
+    """
+
+    Turns a covariance model and a seed into a realisation.
+
+    Made by `SimulatorFactory.TBSIM` or `SimulatorFactory.FIM`, for a fixed extent.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> corners = gravelox.CartesianGrid((100, 100, 20), (10, 10, 4)).corners()
+    >>> ellipsoid = gravelox.Ellipsoid(60, 40, 20, 30, 0, 0)
+    >>> factory = gravelox.SimulatorFactory.TBSIM(corners)
+    >>> field = factory([gravelox.Covariance.spherical(1.0, ellipsoid)], 42)
+    >>> field((20, 30, 10)) == field((20, 30, 10))
+    True
+    """
+    @staticmethod
+    @typing.overload
+    def FIM(corners: numpy.typing.ArrayLike, nx: int, ny: int, nz: int, n_threads: int = 0) -> SimulatorFactory:
+        """
+        A factory of realisations by the Fourier integral method, see `FIM`.
+
+        Parameters
+        ----------
+        corners : array_like of shape (m, 3)
+            Locations whose box in isotropic space is the extent of the field, such as
+            `CartesianGrid.corners()`, in metres or another length unit.
+        nx, ny, nz : int
+            Cells of the grid along the axes of isotropic space; below 1 they count as 1.
+        n_threads : int
+            Threads; 0 means all. The field repeats only for an equal number. It becomes the thread count of
+            the transform library and of the parallel runtime as well, for later calls too.
+
+        Returns
+        -------
+        SimulatorFactory
+            To be called with models and seeds.
+
+        Raises
+        ------
+        ValueError
+            If `corners` are empty or not finite.
+
+        References
+        ----------
+        Pardo-Iguzquiza, E. and Chica-Olmo, M. (1993). The Fourier integral method: an efficient spectral
+        method for simulation of random fields. Mathematical Geology 25, 177-217.
+        """
+    @staticmethod
+    @typing.overload
+    def FIM(corners: numpy.typing.ArrayLike, n: int = 128, n_threads: int = 0) -> SimulatorFactory:
+        """
+        A factory of realisations by the Fourier integral method on a grid of equal sizes, see `FIM`.
+
+        Parameters
+        ----------
+        corners : array_like of shape (m, 3)
+            Locations whose box in isotropic space is the extent of the field, such as
+            `CartesianGrid.corners()`, in metres or another length unit.
+        n : int
+            Cells of the grid along each axis of isotropic space; below 1 it counts as 1.
+        n_threads : int
+            Threads; 0 means all. The field repeats only for an equal number. It becomes the thread count of
+            the transform library and of the parallel runtime as well, for later calls too.
+
+        Returns
+        -------
+        SimulatorFactory
+            To be called with models and seeds.
+
+        Raises
+        ------
+        ValueError
+            If `corners` are empty or not finite.
+
+        References
+        ----------
+        Pardo-Iguzquiza, E. and Chica-Olmo, M. (1993). The Fourier integral method: an efficient spectral
+        method for simulation of random fields. Mathematical Geology 25, 177-217.
+        """
+    @staticmethod
+    def TBSIM(corners: numpy.typing.ArrayLike, n: int = 600) -> SimulatorFactory:
+        """
+        A factory of realisations by turning bands, see `TBSIM`.
+
+        Parameters
+        ----------
+        corners : array_like of shape (m, 3)
+            Locations whose extent the field covers, such as `CartesianGrid.corners()`, in metres or another
+            length unit. The two ends of a diagonal alone do not span a box.
+        n : int
+            Number of lines; without any the field is 0.
+
+        Returns
+        -------
+        SimulatorFactory
+            To be called with models and seeds.
+
+        Raises
+        ------
+        ValueError
+            If `corners` are empty or not finite.
+
+        References
+        ----------
+        Matheron, G. (1973). The intrinsic random functions and their applications. Advances in Applied
+        Probability 5, 439-468.
+
+        Lantuejoul, C. (2002). Geostatistical Simulation: Models and Algorithms. Springer.
+        """
+    def __call__(self, covs: list[Covariance], seed: int) -> SpatialFunction:
+        """
+        A realisation of a covariance model.
+
+        Parameters
+        ----------
+        covs : list of Covariance
+            The model. Each structure has a field of its own, from a seed of its own.
+        seed : int
+            Seed of the realisation.
+
+        Returns
+        -------
+        SpatialFunction
+            The field, in data units.
+
+        Raises
+        ------
+        ValueError
+            If the grid of a Fourier integral does not fit in memory.
+        """
+class SimulatorGenerator:
+    """
+
+    Turns a seed into a realisation of a fixed model.
+
+    Made by `SimulatorGenerator.TBSIM`, `SimulatorGenerator.FIM` or `SimulatorGenerator.Pool`.
+    Realisations are cheap: those of a frozen field only turn it, those of a pool only weigh its fields
+    anew. They share what they need, so a realisation stays valid without its generator.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> corners = gravelox.CartesianGrid((100, 100, 20), (10, 10, 4)).corners()
+    >>> ellipsoid = gravelox.Ellipsoid(60, 40, 20, 30, 0, 0)
+    >>> cov = gravelox.Covariance.spherical(1.0, ellipsoid)
+    >>> generator = gravelox.SimulatorGenerator.TBSIM(
+    ...     corners, cov, 42, n=100, n_base_simulation_points=20)
+    >>> first, second = generator(1), generator(2)
+    >>> first((20, 30, 10)) == generator(1)((20, 30, 10)), first((20, 30, 10)) == second((20, 30, 10))
+    (True, False)
+    """
+    @staticmethod
+    def Ensemble(local_covs: LocalCovariances, sim_factory: SimulatorFactory, max_weight: float, power_a: float, seed: int) -> SpatialFunction:
+        """
+        A field that blends local models: a realisation itself, and not a generator.
+
+        Its value at a location is that of `unconditional_ensemble_simulation` with the same arguments.
+        White noise (a nugget) is a fresh draw at each evaluation.
+
+        Parameters
+        ----------
+        local_covs : LocalCovariances
+            The models, their centres and their errors.
+        sim_factory : SimulatorFactory
+            Makes the realisation of each model.
+        max_weight : float
+            Share of the squared weight that goes to models whose centre is the location (nearer than
+            1e-20), where there are others too.
+        power_a : float
+            Exponent of the distance.
+        seed : int
+            Seed of the realisation.
+
+        Returns
+        -------
+        SpatialFunction
+            The field, in data units.
+
+        Raises
+        ------
+        ValueError
+            If the lists of `local_covs` differ in length or a centre is not finite.
+
+        Examples
+        --------
+        >>> import gravelox
+        >>> corners = gravelox.CartesianGrid((100, 100, 20), (10, 10, 4)).corners()
+        >>> ellipsoid = gravelox.Ellipsoid(60, 40, 20, 30, 0, 0)
+        >>> models = [[gravelox.Covariance.spherical(sill, ellipsoid)] for sill in (1.0, 4.0)]
+        >>> local = gravelox.LocalCovariances([(20, 50, 10), (80, 50, 10)], models, [1.0, 1.0])
+        >>> factory = gravelox.SimulatorFactory.TBSIM(corners)
+        >>> field = gravelox.SimulatorGenerator.Ensemble(local, factory, 0.9, 2.0, 42)
+        >>> location = (50, 20, 10)
+        >>> [field(location)] == gravelox.unconditional_ensemble_simulation(
+        ...     [location], local, factory, 0.9, 2.0, 42, 0)
+        True
+        """
+    @staticmethod
+    @typing.overload
+    def FIM(corners: numpy.typing.ArrayLike, cov: Covariance, seed: int, nx: int, ny: int, nz: int, n_threads: int = 0, n_base_simulation_points: int = 100) -> SimulatorGenerator:
+        """
+        Views of Fourier integral fields of one structure, turned by the seed.
+
+        Parameters
+        ----------
+        corners : array_like of shape (m, 3)
+            Locations whose box the views are meant for, in metres or another length unit.
+        cov : Covariance
+            The structure.
+        seed : int
+            Seed of the frozen field.
+        nx, ny, nz : int
+            Cells of the grid along the axes of isotropic space; below 1 they count as 1.
+        n_threads : int
+            Threads that make and freeze the field; 0 means all. It repeats only for an equal number. It
+            becomes the thread count of the transform library and of the parallel runtime as well, for later
+            calls too.
+        n_base_simulation_points : int
+            Cells of the frozen grid along each axis, at least 1.
+
+        Returns
+        -------
+        SimulatorGenerator
+            To be called with seeds.
+
+        Raises
+        ------
+        ValueError
+            If `corners` are empty or not finite, `n_base_simulation_points` is below 1, or a grid does not
+            fit in memory.
+
+        Notes
+        -----
+        The field is frozen on a grid of `n_base_simulation_points` cells along each axis and is constant
+        within a cell. With a box L ranges long and of a diagonal of D ranges a cell is
+        L (0.25 + 0.75 D) / `n_base_simulation_points` ranges long: keep it well below 1. At 100 points and
+        equal sides it is 0.06 for a box of two ranges, 0.34 for five and 1.3 for ten.
+
+        Views are turned about the origin of coordinates, and repeat themselves beyond the frozen grid, with
+        a seam at its faces: put the origin near the middle of the corners.
+
+        The variance is below the sill, as it is with `FIM`. Corners that do not differ along an axis give a
+        field that is constant along it, of half the variance if it is the third: give the box some depth.
+
+        References
+        ----------
+        Pardo-Iguzquiza, E. and Chica-Olmo, M. (1993). The Fourier integral method: an efficient spectral
+        method for simulation of random fields. Mathematical Geology 25, 177-217.
+        """
+    @staticmethod
+    @typing.overload
+    def FIM(corners: numpy.typing.ArrayLike, covs: list[Covariance], seed: int, nx: int, ny: int, nz: int, n_threads: int = 0, n_base_simulation_points: int = 100) -> SimulatorGenerator:
+        """
+        Views of Fourier integral fields of a model, turned by the seed.
+
+        Parameters
+        ----------
+        corners : array_like of shape (m, 3)
+            Locations whose box the views are meant for, in metres or another length unit.
+        covs : list of Covariance
+            The model. Each structure has a field of its own, from a seed of its own.
+        seed : int
+            Seed of the frozen field.
+        nx, ny, nz : int
+            Cells of the grid along the axes of isotropic space; below 1 they count as 1.
+        n_threads : int
+            Threads that make and freeze the field; 0 means all. It repeats only for an equal number. It
+            becomes the thread count of the transform library and of the parallel runtime as well, for later
+            calls too.
+        n_base_simulation_points : int
+            Cells of the frozen grid along each axis, at least 1.
+
+        Returns
+        -------
+        SimulatorGenerator
+            To be called with seeds.
+
+        Raises
+        ------
+        ValueError
+            If `corners` are empty or not finite, `n_base_simulation_points` is below 1, or a grid does not
+            fit in memory.
+
+        Notes
+        -----
+        The field is frozen on a grid of `n_base_simulation_points` cells along each axis and is constant
+        within a cell. With a box L ranges long and of a diagonal of D ranges a cell is
+        L (0.25 + 0.75 D) / `n_base_simulation_points` ranges long: keep it well below 1. At 100 points and
+        equal sides it is 0.06 for a box of two ranges, 0.34 for five and 1.3 for ten.
+
+        Views are turned about the origin of coordinates, and repeat themselves beyond the frozen grid, with
+        a seam at its faces: put the origin near the middle of the corners.
+
+        Each structure is frozen and turned by itself. Nuggets are white noise, which is not a function of
+        the location and repeats only for an equal number of threads.
+
+        The variance is below the sill, as it is with `FIM`. Corners that do not differ along an axis give a
+        field that is constant along it, of half the variance if it is the third: give the box some depth.
+
+        References
+        ----------
+        Pardo-Iguzquiza, E. and Chica-Olmo, M. (1993). The Fourier integral method: an efficient spectral
+        method for simulation of random fields. Mathematical Geology 25, 177-217.
+        """
+    @staticmethod
+    @typing.overload
+    def FIM(corners: numpy.typing.ArrayLike, cov: Covariance, seed: int, n: int = 128, n_threads: int = 0, n_base_simulation_points: int = 100) -> SimulatorGenerator:
+        """
+        Views of Fourier integral fields of one structure on a grid of equal sizes, turned by the seed.
+
+        Parameters
+        ----------
+        corners : array_like of shape (m, 3)
+            Locations whose box the views are meant for, in metres or another length unit.
+        cov : Covariance
+            The structure.
+        seed : int
+            Seed of the frozen field.
+        n : int
+            Cells of the grid along each axis of isotropic space; below 1 it counts as 1.
+        n_threads : int
+            Threads that make and freeze the field; 0 means all. It repeats only for an equal number. It
+            becomes the thread count of the transform library and of the parallel runtime as well, for later
+            calls too.
+        n_base_simulation_points : int
+            Cells of the frozen grid along each axis, at least 1.
+
+        Returns
+        -------
+        SimulatorGenerator
+            To be called with seeds.
+
+        Raises
+        ------
+        ValueError
+            If `corners` are empty or not finite, `n_base_simulation_points` is below 1, or a grid does not
+            fit in memory.
+
+        Notes
+        -----
+        The field is frozen on a grid of `n_base_simulation_points` cells along each axis and is constant
+        within a cell. With a box L ranges long and of a diagonal of D ranges a cell is
+        L (0.25 + 0.75 D) / `n_base_simulation_points` ranges long: keep it well below 1. At 100 points and
+        equal sides it is 0.06 for a box of two ranges, 0.34 for five and 1.3 for ten.
+
+        Views are turned about the origin of coordinates, and repeat themselves beyond the frozen grid, with
+        a seam at its faces: put the origin near the middle of the corners.
+
+        The variance is below the sill, as it is with `FIM`. Corners that do not differ along an axis give a
+        field that is constant along it, of half the variance if it is the third: give the box some depth.
+
+        Name the arguments: by position, `FIM(corners, cov, seed, n, n_threads,
+        n_base_simulation_points)` is a call of the overload that takes `nx`, `ny` and `nz`.
+
+        References
+        ----------
+        Pardo-Iguzquiza, E. and Chica-Olmo, M. (1993). The Fourier integral method: an efficient spectral
+        method for simulation of random fields. Mathematical Geology 25, 177-217.
+        """
+    @staticmethod
+    @typing.overload
+    def FIM(corners: numpy.typing.ArrayLike, covs: list[Covariance], seed: int, n: int = 128, n_threads: int = 0, n_base_simulation_points: int = 100) -> SimulatorGenerator:
+        """
+        Views of Fourier integral fields of a model on a grid of equal sizes, turned by the seed.
+
+        Parameters
+        ----------
+        corners : array_like of shape (m, 3)
+            Locations whose box the views are meant for, in metres or another length unit.
+        covs : list of Covariance
+            The model. Each structure has a field of its own, from a seed of its own.
+        seed : int
+            Seed of the frozen field.
+        n : int
+            Cells of the grid along each axis of isotropic space; below 1 it counts as 1.
+        n_threads : int
+            Threads that make and freeze the field; 0 means all. It repeats only for an equal number. It
+            becomes the thread count of the transform library and of the parallel runtime as well, for later
+            calls too.
+        n_base_simulation_points : int
+            Cells of the frozen grid along each axis, at least 1.
+
+        Returns
+        -------
+        SimulatorGenerator
+            To be called with seeds.
+
+        Raises
+        ------
+        ValueError
+            If `corners` are empty or not finite, `n_base_simulation_points` is below 1, or a grid does not
+            fit in memory.
+
+        Notes
+        -----
+        The field is frozen on a grid of `n_base_simulation_points` cells along each axis and is constant
+        within a cell. With a box L ranges long and of a diagonal of D ranges a cell is
+        L (0.25 + 0.75 D) / `n_base_simulation_points` ranges long: keep it well below 1. At 100 points and
+        equal sides it is 0.06 for a box of two ranges, 0.34 for five and 1.3 for ten.
+
+        Views are turned about the origin of coordinates, and repeat themselves beyond the frozen grid, with
+        a seam at its faces: put the origin near the middle of the corners.
+
+        Each structure is frozen and turned by itself. Nuggets are white noise, which is not a function of
+        the location and repeats only for an equal number of threads.
+
+        The variance is below the sill, as it is with `FIM`. Corners that do not differ along an axis give a
+        field that is constant along it, of half the variance if it is the third: give the box some depth.
+
+        Name the arguments: by position, `FIM(corners, cov, seed, n, n_threads,
+        n_base_simulation_points)` is a call of the overload that takes `nx`, `ny` and `nz`.
+
+        References
+        ----------
+        Pardo-Iguzquiza, E. and Chica-Olmo, M. (1993). The Fourier integral method: an efficient spectral
+        method for simulation of random fields. Mathematical Geology 25, 177-217.
+        """
+    @staticmethod
+    def Pool(simulators: list[SpatialFunction]) -> SimulatorGenerator:
+        """
+        A generator of random mixtures of the same fields.
+
+        Each seed gives weights whose squares add up to 1: a mixture of independent fields of equal variance
+        has that variance.
+
+        Parameters
+        ----------
+        simulators : list of SpatialFunction
+            The fields; without any, mixtures are 0.
+
+        Returns
+        -------
+        SimulatorGenerator
+            To be called with seeds.
+
+        Examples
+        --------
+        >>> import gravelox
+        >>> corners = gravelox.CartesianGrid((100, 100, 20), (10, 10, 4)).corners()
+        >>> ellipsoid = gravelox.Ellipsoid(60, 40, 20, 30, 0, 0)
+        >>> cov = gravelox.Covariance.gaussian(1.0, ellipsoid)
+        >>> fields = [gravelox.TBSIM(corners, cov, seed) for seed in (1, 2, 3)]
+        >>> pool = gravelox.SimulatorGenerator.Pool(fields)
+        >>> first, again, other = (pool(seed)((20, 30, 10)) for seed in (42, 42, 43))
+        >>> first == again, first == other
+        (True, False)
+        """
+    @staticmethod
+    @typing.overload
+    def TBSIM(corners: numpy.typing.ArrayLike, cov: Covariance, seed: int, n: int = 600, n_threads: int = 0, n_base_simulation_points: int = 100) -> SimulatorGenerator:
+        """
+        Views of turning-bands fields of one structure, turned by the seed.
+
+        Parameters
+        ----------
+        corners : array_like of shape (m, 3)
+            Locations whose box the views are meant for, in metres or another length unit.
+        cov : Covariance
+            The structure.
+        seed : int
+            Seed of the frozen field.
+        n : int
+            Number of lines; without any the field is 0.
+        n_threads : int
+            Threads that freeze the field; 0 means all. It does not depend on them, white noise excepted.
+        n_base_simulation_points : int
+            Cells of the frozen grid along each axis, at least 1.
+
+        Returns
+        -------
+        SimulatorGenerator
+            To be called with seeds.
+
+        Raises
+        ------
+        ValueError
+            If `corners` are empty or not finite, `n_base_simulation_points` is below 1, or a grid does not
+            fit in memory.
+
+        Notes
+        -----
+        Corners that lie in a plane make a frozen grid one range thick, which a turned view leaves at once:
+        give the box some depth.
+
+        The field is frozen on a grid of `n_base_simulation_points` cells along each axis and is constant
+        within a cell. With a box L ranges long and of a diagonal of D ranges a cell is
+        L (0.25 + 0.75 D) / `n_base_simulation_points` ranges long: keep it well below 1. At 100 points and
+        equal sides it is 0.06 for a box of two ranges, 0.34 for five and 1.3 for ten.
+
+        Views are turned about the origin of coordinates, and repeat themselves beyond the frozen grid, with
+        a seam at its faces: put the origin near the middle of the corners.
+
+        Lines are those of `TBSIM`, with its covariance of exponential structures.
+
+        References
+        ----------
+        Matheron, G. (1973). The intrinsic random functions and their applications. Advances in Applied
+        Probability 5, 439-468.
+
+        Lantuejoul, C. (2002). Geostatistical Simulation: Models and Algorithms. Springer.
+        """
+    @staticmethod
+    @typing.overload
+    def TBSIM(corners: numpy.typing.ArrayLike, covs: list[Covariance], seed: int, n: int = 600, n_threads: int = 0, n_base_simulation_points: int = 100) -> SimulatorGenerator:
+        """
+        Views of turning-bands fields of a model, turned by the seed.
+
+        Parameters
+        ----------
+        corners : array_like of shape (m, 3)
+            Locations whose box the views are meant for, in metres or another length unit.
+        covs : list of Covariance
+            The model. Each structure has a field of its own, from a seed of its own.
+        seed : int
+            Seed of the frozen field.
+        n : int
+            Number of lines; without any the field is 0.
+        n_threads : int
+            Threads that freeze the field; 0 means all. It does not depend on them, white noise excepted.
+        n_base_simulation_points : int
+            Cells of the frozen grid along each axis, at least 1.
+
+        Returns
+        -------
+        SimulatorGenerator
+            To be called with seeds.
+
+        Raises
+        ------
+        ValueError
+            If `corners` are empty or not finite, `n_base_simulation_points` is below 1, or a grid does not
+            fit in memory.
+
+        Notes
+        -----
+        Corners that lie in a plane make a frozen grid one range thick, which a turned view leaves at once:
+        give the box some depth.
+
+        The field is frozen on a grid of `n_base_simulation_points` cells along each axis and is constant
+        within a cell. With a box L ranges long and of a diagonal of D ranges a cell is
+        L (0.25 + 0.75 D) / `n_base_simulation_points` ranges long: keep it well below 1. At 100 points and
+        equal sides it is 0.06 for a box of two ranges, 0.34 for five and 1.3 for ten.
+
+        Views are turned about the origin of coordinates, and repeat themselves beyond the frozen grid, with
+        a seam at its faces: put the origin near the middle of the corners.
+
+        Each structure is frozen and turned by itself. Nuggets are white noise, which is not a function of
+        the location and repeats only for an equal number of threads.
+
+        Lines are those of `TBSIM`, with its covariance of exponential structures.
+
+        References
+        ----------
+        Matheron, G. (1973). The intrinsic random functions and their applications. Advances in Applied
+        Probability 5, 439-468.
+
+        Lantuejoul, C. (2002). Geostatistical Simulation: Models and Algorithms. Springer.
+        """
+    def __call__(self, seed: int) -> SpatialFunction:
+        """
+        A realisation, the same for the same seed.
+
+        Parameters
+        ----------
+        seed : int
+            Seed of the realisation.
+
+        Returns
+        -------
+        SpatialFunction
+            The field, in data units.
+        """
 class SpatialFunction:
     """
 
@@ -1424,6 +2613,7 @@ class SpatialFunction:
     >>> f((0, 0, 0))
     2.0
     """
+    @typing.overload
     def __call__(self, location: numpy.typing.ArrayLike) -> float:
         """
         The value at a location.
@@ -1437,6 +2627,35 @@ class SpatialFunction:
         -------
         float
             The value, in data units.
+        """
+    @typing.overload
+    def __call__(self, locations: numpy.typing.ArrayLike, n_threads: int = 0) -> list[float]:
+        """
+        Values at many locations, in parallel.
+
+        Parameters
+        ----------
+        locations : array_like of shape (n, 3)
+            Coordinates (x, y, z) in length units; for a covariance model, lag vectors.
+        n_threads : int
+            Threads; 0 means all. Values do not depend on it, white noise (a nugget) of a field excepted.
+
+        Returns
+        -------
+        list of float
+            One value for each location in order, in data units.
+
+        Raises
+        ------
+        ValueError
+            If a coordinate is not finite.
+
+        Examples
+        --------
+        >>> import gravelox
+        >>> f = gravelox.covariance_computer([gravelox.Covariance.nugget(2.0)])
+        >>> f([(0, 0, 0), (1, 0, 0)])
+        [2.0, 0.0]
         """
 def Direction(azimuth: float, dip: float) -> numpy.ndarray[numpy.float64[3, 1]]:
     """
@@ -1459,6 +2678,256 @@ def Direction(azimuth: float, dip: float) -> numpy.ndarray[numpy.float64[3, 1]]:
     >>> import gravelox
     >>> gravelox.Direction(90, 0).round(6).tolist()
     [1.0, 0.0, 0.0]
+    """
+@typing.overload
+def FIM(corners: numpy.typing.ArrayLike, cov: Covariance, seed: int, nx: int, ny: int, nz: int, n_threads: int = 0) -> SpatialFunction:
+    """
+    A Gaussian field of one structure by the Fourier integral method.
+
+    The field is unconditional: `simulate` makes it honour samples. The correlation is sampled on a grid
+    of isotropic space, transformed, given random phases, and transformed back. Evaluations then only
+    look values up.
+
+    Parameters
+    ----------
+    corners : array_like of shape (m, 3)
+        Locations whose box in isotropic space is the extent of the field, such as
+        `CartesianGrid.corners()`, in metres or another length unit.
+    cov : Covariance
+        The structure.
+    seed : int
+        Seed of the realisation.
+    nx, ny, nz : int
+        Cells of the grid along the axes of isotropic space; below 1 they count as 1.
+    n_threads : int
+        Threads; 0 means all. The field repeats only for an equal number. It becomes the thread count of
+        the transform library and of the parallel runtime as well, for later calls too.
+
+    Returns
+    -------
+    SpatialFunction
+        The field, in data units; NaN where the sill is negative.
+
+    Raises
+    ------
+    ValueError
+        If `corners` are empty or not finite, or the grid does not fit in memory.
+
+    Notes
+    -----
+    The grid is one and a half times as long as the box of the corners, and has one cell along an axis
+    on which they do not differ. A location takes the value of its cell, and beyond the grid that of the
+    nearest one. The grid is periodic: where a range exceeds half the box, its ends are correlated.
+
+    One half of the spectrum is held, up to the highest frequency along the third axis. Its planes of
+    frequency zero and of the highest frequency there are their own mirror images and keep half their
+    power under random phases, so the variance lies below the sill: at 0.79 to 0.92 of it where the
+    corners are one to three ranges apart along every axis and 0.95 at five, but at 0.8 where they are
+    one range apart along the third axis alone, 0.6 at a fifth of a range, and 0.5 with a single cell.
+
+    References
+    ----------
+    Pardo-Iguzquiza, E. and Chica-Olmo, M. (1993). The Fourier integral method: an efficient spectral
+    method for simulation of random fields. Mathematical Geology 25, 177-217.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> corners = gravelox.CartesianGrid((100, 100, 20), (10, 10, 4)).corners()
+    >>> ellipsoid = gravelox.Ellipsoid(60, 40, 20, 30, 0, 0)
+    >>> cov = gravelox.Covariance.spherical(1.0, ellipsoid)
+    >>> field = gravelox.FIM(corners, cov, 42, 64, 64, 32, n_threads=1)
+    >>> field((20, 30, 10)) == field((20, 30, 10))
+    True
+    """
+@typing.overload
+def FIM(corners: numpy.typing.ArrayLike, covs: list[Covariance], seed: int, nx: int, ny: int, nz: int, n_threads: int = 0) -> SpatialFunction:
+    """
+    A Gaussian field of a model by the Fourier integral method.
+
+    The field is unconditional: `simulate` makes it honour samples. The correlation is sampled on a grid
+    of isotropic space, transformed, given random phases, and transformed back. Evaluations then only
+    look values up.
+
+    Parameters
+    ----------
+    corners : array_like of shape (m, 3)
+        Locations whose box in isotropic space is the extent of the field, such as
+        `CartesianGrid.corners()`, in metres or another length unit.
+    covs : list of Covariance
+        The model. Each structure has a field of its own, from a seed of its own.
+    seed : int
+        Seed of the realisation.
+    nx, ny, nz : int
+        Cells of the grid along the axes of isotropic space; below 1 they count as 1.
+    n_threads : int
+        Threads; 0 means all. The field repeats only for an equal number. It becomes the thread count of
+        the transform library and of the parallel runtime as well, for later calls too.
+
+    Returns
+    -------
+    SpatialFunction
+        The field, in data units; NaN where a sill is negative.
+
+    Raises
+    ------
+    ValueError
+        If `corners` are empty or not finite, or the grid does not fit in memory.
+
+    Notes
+    -----
+    The grid is one and a half times as long as the box of the corners, and has one cell along an axis
+    on which they do not differ. A location takes the value of its cell, and beyond the grid that of the
+    nearest one. The grid is periodic: where a range exceeds half the box, its ends are correlated.
+
+    One half of the spectrum is held, up to the highest frequency along the third axis. Its planes of
+    frequency zero and of the highest frequency there are their own mirror images and keep half their
+    power under random phases, so the variance lies below the sill: at 0.79 to 0.92 of it where the
+    corners are one to three ranges apart along every axis and 0.95 at five, but at 0.8 where they are
+    one range apart along the third axis alone, 0.6 at a fifth of a range, and 0.5 with a single cell.
+
+    White noise (a nugget) is not a function of the location: each evaluation is a fresh draw, and a run
+    repeats only for an equal number of threads.
+
+    References
+    ----------
+    Pardo-Iguzquiza, E. and Chica-Olmo, M. (1993). The Fourier integral method: an efficient spectral
+    method for simulation of random fields. Mathematical Geology 25, 177-217.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> corners = gravelox.CartesianGrid((100, 100, 20), (10, 10, 4)).corners()
+    >>> ellipsoid = gravelox.Ellipsoid(60, 40, 20, 30, 0, 0)
+    >>> cov = gravelox.Covariance.spherical(1.0, ellipsoid)
+    >>> field = gravelox.FIM(corners, [cov], 42, 64, 64, 32, n_threads=1)
+    >>> field((20, 30, 10)) == field((20, 30, 10))
+    True
+    """
+@typing.overload
+def FIM(corners: numpy.typing.ArrayLike, cov: Covariance, seed: int, n: int = 128, n_threads: int = 0) -> SpatialFunction:
+    """
+    A Gaussian field of one structure by the Fourier integral method, on a grid of equal sizes.
+
+    The field is unconditional: `simulate` makes it honour samples. The correlation is sampled on a grid
+    of isotropic space, transformed, given random phases, and transformed back. Evaluations then only
+    look values up.
+
+    Parameters
+    ----------
+    corners : array_like of shape (m, 3)
+        Locations whose box in isotropic space is the extent of the field, such as
+        `CartesianGrid.corners()`, in metres or another length unit.
+    cov : Covariance
+        The structure.
+    seed : int
+        Seed of the realisation.
+    n : int
+        Cells of the grid along each axis of isotropic space; below 1 it counts as 1.
+    n_threads : int
+        Threads; 0 means all. The field repeats only for an equal number. It becomes the thread count of
+        the transform library and of the parallel runtime as well, for later calls too.
+
+    Returns
+    -------
+    SpatialFunction
+        The field, in data units; NaN where the sill is negative.
+
+    Raises
+    ------
+    ValueError
+        If `corners` are empty or not finite, or the grid does not fit in memory.
+
+    Notes
+    -----
+    The grid is one and a half times as long as the box of the corners, and has one cell along an axis
+    on which they do not differ. A location takes the value of its cell, and beyond the grid that of the
+    nearest one. The grid is periodic: where a range exceeds half the box, its ends are correlated.
+
+    One half of the spectrum is held, up to the highest frequency along the third axis. Its planes of
+    frequency zero and of the highest frequency there are their own mirror images and keep half their
+    power under random phases, so the variance lies below the sill: at 0.79 to 0.92 of it where the
+    corners are one to three ranges apart along every axis and 0.95 at five, but at 0.8 where they are
+    one range apart along the third axis alone, 0.6 at a fifth of a range, and 0.5 with a single cell.
+
+    References
+    ----------
+    Pardo-Iguzquiza, E. and Chica-Olmo, M. (1993). The Fourier integral method: an efficient spectral
+    method for simulation of random fields. Mathematical Geology 25, 177-217.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> corners = gravelox.CartesianGrid((100, 100, 20), (10, 10, 4)).corners()
+    >>> ellipsoid = gravelox.Ellipsoid(60, 40, 20, 30, 0, 0)
+    >>> cov = gravelox.Covariance.spherical(1.0, ellipsoid)
+    >>> field = gravelox.FIM(corners, cov, 42, 64, n_threads=1)
+    >>> field((20, 30, 10)) == field((20, 30, 10))
+    True
+    """
+@typing.overload
+def FIM(corners: numpy.typing.ArrayLike, covs: list[Covariance], seed: int, n: int = 128, n_threads: int = 0) -> SpatialFunction:
+    """
+    A Gaussian field of a model by the Fourier integral method, on a grid of equal sizes.
+
+    The field is unconditional: `simulate` makes it honour samples. The correlation is sampled on a grid
+    of isotropic space, transformed, given random phases, and transformed back. Evaluations then only
+    look values up.
+
+    Parameters
+    ----------
+    corners : array_like of shape (m, 3)
+        Locations whose box in isotropic space is the extent of the field, such as
+        `CartesianGrid.corners()`, in metres or another length unit.
+    covs : list of Covariance
+        The model. Each structure has a field of its own, from a seed of its own.
+    seed : int
+        Seed of the realisation.
+    n : int
+        Cells of the grid along each axis of isotropic space; below 1 it counts as 1.
+    n_threads : int
+        Threads; 0 means all. The field repeats only for an equal number. It becomes the thread count of
+        the transform library and of the parallel runtime as well, for later calls too.
+
+    Returns
+    -------
+    SpatialFunction
+        The field, in data units; NaN where a sill is negative.
+
+    Raises
+    ------
+    ValueError
+        If `corners` are empty or not finite, or the grid does not fit in memory.
+
+    Notes
+    -----
+    The grid is one and a half times as long as the box of the corners, and has one cell along an axis
+    on which they do not differ. A location takes the value of its cell, and beyond the grid that of the
+    nearest one. The grid is periodic: where a range exceeds half the box, its ends are correlated.
+
+    One half of the spectrum is held, up to the highest frequency along the third axis. Its planes of
+    frequency zero and of the highest frequency there are their own mirror images and keep half their
+    power under random phases, so the variance lies below the sill: at 0.79 to 0.92 of it where the
+    corners are one to three ranges apart along every axis and 0.95 at five, but at 0.8 where they are
+    one range apart along the third axis alone, 0.6 at a fifth of a range, and 0.5 with a single cell.
+
+    White noise (a nugget) is not a function of the location: each evaluation is a fresh draw, and a run
+    repeats only for an equal number of threads.
+
+    References
+    ----------
+    Pardo-Iguzquiza, E. and Chica-Olmo, M. (1993). The Fourier integral method: an efficient spectral
+    method for simulation of random fields. Mathematical Geology 25, 177-217.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> corners = gravelox.CartesianGrid((100, 100, 20), (10, 10, 4)).corners()
+    >>> ellipsoid = gravelox.Ellipsoid(60, 40, 20, 30, 0, 0)
+    >>> cov = gravelox.Covariance.spherical(1.0, ellipsoid)
+    >>> field = gravelox.FIM(corners, [cov], 42, 64, n_threads=1)
+    >>> field((20, 30, 10)) == field((20, 30, 10))
+    True
     """
 @typing.overload
 def IDW(power_a: float = 2.0, max_weight: float = 0.9, max_neighbors: int = -1, max_radius: float = -1.0, max_neighbors_octant: int = -1, dhids: numpy.typing.ArrayLike = [], max_neis_by_dhid: int = -1) -> Estimator:
@@ -1617,6 +3086,155 @@ def SimpleKriging(covs: list[Covariance], mean: float, max_neighbors: int = -1, 
     ----------
     Matheron, G. (1963). Principles of geostatistics. Economic Geology 58, 1246-1266.
     """
+@typing.overload
+def TBSIM(corners: numpy.typing.ArrayLike, cov: Covariance, seed: int, n: int = 600) -> SpatialFunction:
+    """
+    A Gaussian field of one structure by turning bands.
+
+    The field is unconditional: `simulate` makes it honour samples. It is the sum of `n` one-dimensional
+    processes, each along a line of its own, and needs no grid. An evaluation costs
+    a product and a cosine or a look-up for each line.
+
+    Parameters
+    ----------
+    corners : array_like of shape (m, 3)
+        Locations whose extent the field covers, such as `CartesianGrid.corners()`, in metres or another
+        length unit. The two ends of a diagonal alone do not span a box.
+    cov : Covariance
+        The structure.
+    seed : int
+        Seed of the realisation.
+    n : int
+        Number of lines; without any the field is 0.
+
+    Returns
+    -------
+    SpatialFunction
+        The field, in data units; NaN where the sill is negative.
+
+    Raises
+    ------
+    ValueError
+        If `corners` are empty or not finite.
+
+    Notes
+    -----
+    The field is meant for the extent of the corners: beyond it spherical and exponential lines go on in
+    a straight line. A line of more than 10000 cells, each about a range long, becomes white noise.
+
+    The covariance is that of the kernel for spherical and Gaussian structures. That of an exponential
+    one is about 0.69 of the sill at 0.1 and 0.14 at 0.5 of the practical range, where the kernel has
+    0.74 and 0.22.
+
+    White noise (a nugget) is not a function of the location: each evaluation is a fresh draw, and a run
+    repeats only for an equal number of threads.
+
+    References
+    ----------
+    Matheron, G. (1973). The intrinsic random functions and their applications. Advances in Applied
+    Probability 5, 439-468.
+
+    Lantuejoul, C. (2002). Geostatistical Simulation: Models and Algorithms. Springer.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> corners = gravelox.CartesianGrid((100, 100, 20), (10, 10, 4)).corners()
+    >>> ellipsoid = gravelox.Ellipsoid(60, 40, 20, 30, 0, 0)
+    >>> cov = gravelox.Covariance.spherical(1.0, ellipsoid)
+    >>> field = gravelox.TBSIM(corners, cov, 42)
+    >>> values = field([(20, 30, 10), (21, 30, 10)])
+    >>> values[0] == field((20, 30, 10)), values[0] == values[1]
+    (True, False)
+    """
+@typing.overload
+def TBSIM(corners: numpy.typing.ArrayLike, covs: list[Covariance], seed: int, n: int = 600) -> SpatialFunction:
+    """
+    A Gaussian field of a model by turning bands.
+
+    The field is unconditional: `simulate` makes it honour samples. It is the sum of `n` one-dimensional
+    processes for each structure, each along a line of its own, and needs no grid. An evaluation costs
+    a product and a cosine or a look-up for each line.
+
+    Parameters
+    ----------
+    corners : array_like of shape (m, 3)
+        Locations whose extent the field covers, such as `CartesianGrid.corners()`, in metres or another
+        length unit. The two ends of a diagonal alone do not span a box.
+    covs : list of Covariance
+        The model. Each structure has a field of its own, from a seed of its own.
+    seed : int
+        Seed of the realisation.
+    n : int
+        Number of lines; without any the field is 0.
+
+    Returns
+    -------
+    SpatialFunction
+        The field, in data units; NaN where a sill is negative.
+
+    Raises
+    ------
+    ValueError
+        If `corners` are empty or not finite.
+
+    Notes
+    -----
+    The field is meant for the extent of the corners: beyond it spherical and exponential lines go on in
+    a straight line. A line of more than 10000 cells, each about a range long, becomes white noise.
+
+    The covariance is that of the kernel for spherical and Gaussian structures. That of an exponential
+    one is about 0.69 of the sill at 0.1 and 0.14 at 0.5 of the practical range, where the kernel has
+    0.74 and 0.22.
+
+    White noise (a nugget) is not a function of the location: each evaluation is a fresh draw, and a run
+    repeats only for an equal number of threads.
+
+    References
+    ----------
+    Matheron, G. (1973). The intrinsic random functions and their applications. Advances in Applied
+    Probability 5, 439-468.
+
+    Lantuejoul, C. (2002). Geostatistical Simulation: Models and Algorithms. Springer.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> corners = gravelox.CartesianGrid((100, 100, 20), (10, 10, 4)).corners()
+    >>> ellipsoid = gravelox.Ellipsoid(60, 40, 20, 30, 0, 0)
+    >>> cov = gravelox.Covariance.spherical(1.0, ellipsoid)
+    >>> field = gravelox.TBSIM(corners, [cov], 42)
+    >>> values = field([(20, 30, 10), (21, 30, 10)])
+    >>> values[0] == field((20, 30, 10)), values[0] == values[1]
+    (True, False)
+    """
+def cauchy_distribution(a: float, b: float) -> Distribution:
+    """
+    The Cauchy distribution.
+
+    Parameters
+    ----------
+    a : float
+        Location (the median), in data units.
+    b : float
+        Scale (half the interquartile range), in data units, above 0.
+
+    Returns
+    -------
+    Distribution
+        The distribution.
+
+    Raises
+    ------
+    ValueError
+        If `b` is not above 0, or a parameter is not finite.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> round(gravelox.PDF(gravelox.cauchy_distribution(1.0, 2.0)).q75(), 4)
+    3.0
+    """
 def check_n_threads(n_threads: int = 0) -> int:
     """
     Resolve a requested number of threads as every function with `n_threads` does.
@@ -1639,6 +3257,31 @@ def check_n_threads(n_threads: int = 0) -> int:
     1
     >>> gravelox.check_n_threads(-2) == gravelox.check_n_threads(0)
     True
+    """
+def chi_squared_distribution(k: float) -> Distribution:
+    """
+    The chi-squared distribution.
+
+    Parameters
+    ----------
+    k : float
+        Degrees of freedom, above 0.
+
+    Returns
+    -------
+    Distribution
+        The distribution.
+
+    Raises
+    ------
+    ValueError
+        If `k` is not above 0 or not finite.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> round(gravelox.CDF(gravelox.chi_squared_distribution(3)).prob(0.95), 4)
+    7.8147
     """
 def compute_exp_variogram(data_locs: numpy.typing.ArrayLike, data_values: numpy.typing.ArrayLike, n_centers: int = 60, angle_tol: float = 5.0, n_lags: int = 75, lag_tol: float = 0.001, bandwidth: float = 0.02, window_size: int = 2, n_directions: int = 300, tol: float = 0.01, n_threads: int = 0, seed: int = 12415) -> ExperimentalVariogram:
     """
@@ -2084,6 +3727,75 @@ def create_random_drillholes(l1: float, l2: float, n_drillholes: int, min_azimut
     dhids : list of int
         The hole id of each sample.
     """
+def data_distribution(data: numpy.typing.ArrayLike, weight: numpy.typing.ArrayLike = []) -> Distribution:
+    """
+    The distribution of samples, with or without weights.
+
+    Samples within 1e-16 of each other count as one, with their weights summed. The table of the
+    distribution is exclusive: the probability of a value is the share of the weight below it, 1e-16 for
+    the least and 1 less its own share for the greatest value.
+
+    Between the values, quantiles and probabilities are interpolated linearly. Beyond both ends they go
+    on in straight lines and are not clamped: probabilities fall below 0 and rise above 1, and draws
+    reach beyond the greatest value, as often as its weight tells. To have an upper tail end somewhere
+    or a lower tail at all, put its end among the data with a small weight.
+
+    Parameters
+    ----------
+    data : sequence of float of length n
+        The samples, in data units, in any order; at least 2.
+    weight : sequence of float of length n
+        Their weights, by declustering for instance, which need not add up to 1; empty: all equal.
+
+    Returns
+    -------
+    Distribution
+        The distribution. Its density is a mass: half the weight between the neighbours of a value.
+
+    Raises
+    ------
+    ValueError
+        "Data must have at least 2 elements", or if a number is not finite, or weights are of another
+        length, negative, or all 0.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> cdf = gravelox.CDF(gravelox.data_distribution([1.0, 2.0]))
+    >>> round(cdf.value(2.0), 6), round(cdf.prob(0.75), 6)
+    (0.5, 2.5)
+    >>> weighted = gravelox.CDF(gravelox.data_distribution([1.0, 2.0], [3.0, 1.0]))
+    >>> round(weighted.value(2.0), 6)
+    0.75
+    """
+def exponential_distribution(__lambda: float) -> Distribution:
+    """
+    The exponential distribution.
+
+    Python has a keyword of the name of its parameter: give it by position, or as
+    `**{"lambda": 2.0}`.
+
+    Parameters
+    ----------
+    lambda : float
+        Rate (1 / mean), in units of 1 / data units, above 0.
+
+    Returns
+    -------
+    Distribution
+        The distribution.
+
+    Raises
+    ------
+    ValueError
+        If `lambda` is not above 0 or not finite.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> round(gravelox.PDF(gravelox.exponential_distribution(2.0)).median(), 4)
+    0.3466
+    """
 def extract_ellipsoid_info(T: numpy.typing.ArrayLike) -> EllipsoidInfo:
     """
     Ranges and angles of an anisotropy matrix.
@@ -2139,6 +3851,114 @@ def extreme_points(locations: numpy.typing.ArrayLike, n_rays: int = 600, seed: i
     >>> triangle = [(0, 0, 0), (4, 0, 0), (0, 4, 0), (1, 1, 0)]
     >>> sorted(tuple(map(float, p)) for p in gravelox.extreme_points(triangle))
     [(0.0, 0.0, 0.0), (0.0, 4.0, 0.0), (4.0, 0.0, 0.0)]
+    """
+def extreme_value_distribution(a: float, b: float) -> Distribution:
+    """
+    The extreme value distribution of the greatest values (type I, Gumbel).
+
+    Parameters
+    ----------
+    a : float
+        Location (the mode), in data units.
+    b : float
+        Scale, in data units, above 0.
+
+    Returns
+    -------
+    Distribution
+        The distribution.
+
+    Raises
+    ------
+    ValueError
+        If `b` is not above 0, or a parameter is not finite.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> round(gravelox.CDF(gravelox.extreme_value_distribution(1.0, 2.0)).value(1.0), 4)
+    0.3679
+    """
+def fisher_f_distribution(m: float, n: float) -> Distribution:
+    """
+    Fisher's F distribution.
+
+    Parameters
+    ----------
+    m : float
+        Degrees of freedom of the numerator, above 0 and at most 1e15.
+    n : float
+        Degrees of freedom of the denominator, above 0 and at most 1e15.
+
+    Returns
+    -------
+    Distribution
+        The distribution.
+
+    Raises
+    ------
+    ValueError
+        If a parameter is not above 0 or not finite.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> round(gravelox.CDF(gravelox.fisher_f_distribution(5, 10)).prob(0.95), 4)
+    3.3258
+    """
+def gamma_distribution(alpha: float, beta: float) -> Distribution:
+    """
+    The gamma distribution.
+
+    Parameters
+    ----------
+    alpha : float
+        Shape, above 0.
+    beta : float
+        Scale, in data units, above 0: the mean is alpha beta.
+
+    Returns
+    -------
+    Distribution
+        The distribution.
+
+    Raises
+    ------
+    ValueError
+        If a parameter is not above 0 or not finite.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> round(gravelox.CDF(gravelox.gamma_distribution(2.0, 3.0)).value(6.0), 4)
+    0.594
+    """
+def gaussian_distribution(mean: float = 0.0, std_dev: float = 1.0) -> Distribution:
+    """
+    The Gaussian distribution.
+
+    Parameters
+    ----------
+    mean : float
+        Mean, in data units.
+    std_dev : float
+        Standard deviation, in data units, above 0.
+
+    Returns
+    -------
+    Distribution
+        The distribution.
+
+    Raises
+    ------
+    ValueError
+        If `std_dev` is not above 0, or a parameter is not finite.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> round(gravelox.CDF(gravelox.gaussian_distribution()).value(1.0), 4)
+    0.8413
     """
 def generate_covariances(ellipsoid: Ellipsoid, n_kernels: int, cov_kernel: Kernel, n_covs: int, seed: int, delta_angle: float, min_str_range: float, max_str_range: float, min_sill: float, max_sill: float) -> list[list[Covariance]]:
     """
@@ -2301,6 +4121,33 @@ def generate_rotations(n_rays: int, seed: int, tol: float) -> list[numpy.ndarray
     >>> max(float(abs(m @ m.T - [[1, 0, 0], [0, 1, 0], [0, 0, 1]]).max()) for m in frames) < 1e-3
     True
     """
+def lognormal_distribution(m: float, s: float) -> Distribution:
+    """
+    The lognormal distribution.
+
+    Parameters
+    ----------
+    m : float
+        Mean of the logarithm.
+    s : float
+        Standard deviation of the logarithm, above 0.
+
+    Returns
+    -------
+    Distribution
+        The distribution.
+
+    Raises
+    ------
+    ValueError
+        If `s` is not above 0, or a parameter is not finite.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> round(gravelox.PDF(gravelox.lognormal_distribution(1.0, 0.5)).median(), 4)
+    2.7183
+    """
 def moving_window_estimation(target_locs: numpy.typing.ArrayLike, nei: Neighborhood, data_locs: numpy.typing.ArrayLike, data: numpy.typing.ArrayLike, covs: list[Covariance], max_neighbors: int, max_radius: float = -1.0, max_neighbors_octant: int = -1, dhids: numpy.typing.ArrayLike = [], max_neis_by_dhid: int = -1, n_threads: int = 0) -> list[float]:
     """
     A mean of the neighbours, weighted by a covariance model as a smoothing kernel.
@@ -2433,6 +4280,99 @@ def set_fft_n_threads(n_threads: int = 0) -> None:
     n_threads : int
         Threads, resolved by `check_n_threads`. After import it is the full hardware count.
     """
+def simulate(simulator: SpatialFunction, estimator: Estimator, target_locs: numpy.typing.ArrayLike, neighborhood: Neighborhood, data_locs: numpy.typing.ArrayLike, data: numpy.typing.ArrayLike, n_threads: int = 0) -> list[float]:
+    """
+    Make an unconditional field honour samples.
+
+    The result is the field plus the estimate of what the samples differ from it by. Targets do not
+    depend on each other.
+
+    The estimator to condition a Gaussian field of mean 0 with is simple kriging of mean 0 and of the
+    model of the field, `SimpleKriging(covs, 0.0, max_neighbors)`: ordinary kriging's estimate carries
+    its Lagrange multiplier. Samples have to be normal scores, see `NScore`, and results go back through
+    its `backward`.
+
+    Parameters
+    ----------
+    simulator : SpatialFunction
+        The unconditional field, by `TBSIM`, `FIM` or a generator.
+    estimator : Estimator
+        Estimates the differences at the targets.
+    target_locs : array_like of shape (m, 3)
+        Where to simulate, in metres or another length unit.
+    neighborhood : Neighborhood
+        A search over the samples' locations.
+    data_locs : array_like of shape (n, 3)
+        Locations of the samples, those of the neighbourhood first.
+    data : sequence of float of length n
+        Values of the samples, in the units of the field.
+    n_threads : int
+        Threads; 0 means all. Values do not depend on it, white noise (a nugget) excepted.
+
+    Returns
+    -------
+    list of float
+        One value for each target; NaN where the estimator gives NaN, as it does without neighbours. At
+        a sample's location the value of the sample, where the estimator is exact.
+
+    Raises
+    ------
+    ValueError
+        If `data` and `data_locs` differ in length, a coordinate is not finite, or the neighbourhood
+        holds more locations than `data_locs`.
+
+    Notes
+    -----
+    White noise (a nugget) in the field is not a function of the location: each evaluation is a fresh
+    draw, first at the samples, then at the targets. A target on a sample therefore does not have its
+    value. A run repeats only for an equal number of threads.
+
+    References
+    ----------
+    Journel, A. G. (1974). Geostatistics for conditional simulation of ore bodies. Economic Geology 69,
+    673-687.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> corners = gravelox.CartesianGrid((100, 100, 20), (10, 10, 4)).corners()
+    >>> covs = [gravelox.Covariance.spherical(1.0, gravelox.Ellipsoid(60, 40, 20, 30, 0, 0))]
+    >>> locations, scores = [(20, 30, 0), (25, 35, 0)], [1.2, -0.4]
+    >>> kriging = gravelox.SimpleKriging(covs, 0.0, max_neighbors=2)
+    >>> hood = gravelox.Neighborhood(locations)
+    >>> targets = [(20, 30, 0), (22, 33, 0)]
+    >>> fields = [gravelox.TBSIM(corners, covs, seed) for seed in (1, 2)]
+    >>> one, two = (gravelox.simulate(f, kriging, targets, hood, locations, scores) for f in fields)
+    >>> round(one[0], 4), round(two[0], 4), one[1] == two[1]
+    (1.2, 1.2, False)
+    """
+def simulator(simulators: list[SpatialFunction]) -> SpatialFunction:
+    """
+    The sum of fields.
+
+    A model's field is the sum of those of its structures, for instance.
+
+    Parameters
+    ----------
+    simulators : list of SpatialFunction
+        The fields, in data units.
+
+    Returns
+    -------
+    SpatialFunction
+        Their sum at each location; 0 for an empty list.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> corners = gravelox.CartesianGrid((100, 100, 20), (10, 10, 4)).corners()
+    >>> ellipsoid = gravelox.Ellipsoid(60, 40, 20, 30, 0, 0)
+    >>> cov = gravelox.Covariance.gaussian(1.0, ellipsoid)
+    >>> fields = [gravelox.TBSIM(corners, cov, seed) for seed in (1, 2)]
+    >>> total = gravelox.simulator(fields)
+    >>> total((20, 30, 10)) == fields[0]((20, 30, 10)) + fields[1]((20, 30, 10))
+    True
+    """
 def smooth_variogram(vario: ExperimentalVariogram, n_lags: int, max_n_neis: int, max_r: float, bandwidth: float, power_a: float, max_weight: float, sampling_size: int, n_threads: int = 0, seed: int = 123151) -> ExperimentalVariogram:
     """
     Resample a noisy variogram at new lags along the same directions.
@@ -2513,6 +4453,114 @@ def sort_matrix3d(T: numpy.typing.ArrayLike, orthogonalize: bool = True) -> nump
     >>> gravelox.sort_matrix3d([[2, 0, 0], [0, 1, 0], [0, 0, 3]])[0].tolist()
     [0.0, 1.0, 0.0]
     """
+def student_t_distribution(n: float) -> Distribution:
+    """
+    Student's t distribution.
+
+    Parameters
+    ----------
+    n : float
+        Degrees of freedom, above 0.
+
+    Returns
+    -------
+    Distribution
+        The distribution.
+
+    Raises
+    ------
+    ValueError
+        If `n` is not above 0.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> round(gravelox.CDF(gravelox.student_t_distribution(10)).prob(0.975), 4)
+    2.2281
+    """
+def unconditional_ensemble_simulation(locs: numpy.typing.ArrayLike, local_covs: LocalCovariances, simulator_factory: SimulatorFactory, max_weight: float, power_a: float, seed: int, n_threads: int) -> list[float]:
+    """
+    Blend one realisation of each local model into a field that is not stationary, in parallel.
+
+    The value at a location is the sum of all realisations there, weighted by the square root of
+    (distance error)^-`power_a` as a share of its sum over the models; distance is that of the location
+    to the centre of a model, error the error of that model. Squares of weights add up to 1. Every
+    realisation is evaluated at every location.
+
+    Parameters
+    ----------
+    locs : array_like of shape (n, 3)
+        Where to evaluate, in metres or another length unit.
+    local_covs : LocalCovariances
+        The models, their centres and their errors.
+    simulator_factory : SimulatorFactory
+        Makes the realisation of each model.
+    max_weight : float
+        Share of the squared weight that goes to models whose centre is the location (nearer than
+        1e-20), where there are others too.
+    power_a : float
+        Exponent of the distance.
+    seed : int
+        Seed of the realisation.
+    n_threads : int
+        Threads; 0 means all. Values do not depend on it, white noise (a nugget) excepted.
+
+    Returns
+    -------
+    list of float
+        One value for each location, in data units. 0 where the location is a centre and no other model
+        has weight, as with a single model.
+
+    Raises
+    ------
+    ValueError
+        If the lists of `local_covs` differ in length or a coordinate is not finite.
+
+    Notes
+    -----
+    A model whose error is 0 or less counts as centred on every location. Weights that add up to 1e-10
+    or less are not rescaled, so values fade out where all centres are that far away.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> corners = gravelox.CartesianGrid((100, 100, 20), (10, 10, 4)).corners()
+    >>> ellipsoid = gravelox.Ellipsoid(60, 40, 20, 30, 0, 0)
+    >>> models = [[gravelox.Covariance.spherical(sill, ellipsoid)] for sill in (1.0, 4.0)]
+    >>> local = gravelox.LocalCovariances([(20, 50, 10), (80, 50, 10)], models, [1.0, 1.0])
+    >>> factory = gravelox.SimulatorFactory.TBSIM(corners)
+    >>> values = gravelox.unconditional_ensemble_simulation(
+    ...     [(50, 20, 10), (70, 20, 10)], local, factory, 0.9, 2.0, 42, 0)
+    >>> len(values)
+    2
+    """
+def uniform_distribution(a: float, b: float) -> Distribution:
+    """
+    The uniform distribution.
+
+    Parameters
+    ----------
+    a : float
+        Lower end, in data units.
+    b : float
+        Upper end, in data units, above `a`.
+
+    Returns
+    -------
+    Distribution
+        The distribution.
+
+    Raises
+    ------
+    ValueError
+        If `a` is not below `b`, or a parameter is not finite.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> round(gravelox.PDF(gravelox.uniform_distribution(2.0, 4.0)).q90(), 4)
+    3.8
+    """
 def variogram_computer(cov: list[Covariance], data_var: float) -> SpatialFunction:
     """
     Variogram of a covariance model, rescaled to the variance of the data.
@@ -2544,4 +4592,31 @@ def variogram_computer(cov: list[Covariance], data_var: float) -> SpatialFunctio
     >>> variogram = gravelox.variogram_computer(model, 4.0)
     >>> variogram((0, 0, 0)), variogram((5, 0, 0)), variogram((20, 0, 0))
     (0.0, 2.75, 4.0)
+    """
+def weibull_distribution(a: float, b: float) -> Distribution:
+    """
+    The Weibull distribution.
+
+    Parameters
+    ----------
+    a : float
+        Shape, above 0.
+    b : float
+        Scale, in data units, above 0.
+
+    Returns
+    -------
+    Distribution
+        The distribution.
+
+    Raises
+    ------
+    ValueError
+        If a parameter is not above 0 or not finite.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> round(gravelox.CDF(gravelox.weibull_distribution(2.0, 3.0)).value(3.0), 4)
+    0.6321
     """

@@ -38,12 +38,24 @@ OBJECTS += [gravelox.BoundingBox([]), gravelox.BoundingBox(FOUR), gravelox.Kerne
 OBJECTS += [gravelox.ExperimentalVariogram(FOUR[:n], *[[1, 0, 2, 1][:n]] * 3, FOUR) for n in (0, 4)]
 OBJECTS += [gravelox.fft.SpectralData1D(FOUR[1], FOUR[2])]
 OBJECTS += [gravelox.IDW(0.5, 0, 3, 2, 1, [1, 1, 2, 2], 1), gravelox.OrdinaryKriging(COVS[:1], 4)]
+LOCALS = [gravelox.LocalCovariances(FOUR[:n], [COVS] * n, [1, 0][:n]) for n in (0, 2)]
+LOCALS[0].centers = FOUR  # the lists no longer match
+OBJECTS += [
+    *LOCALS,
+    gravelox.SimulatorFactory.TBSIM(FOUR, 3),
+    gravelox.SimulatorFactory.FIM(FOUR, 3),
+]
+FIELDS = [make(FOUR, COVS[::3], 1, 3) for make in (gravelox.TBSIM, gravelox.FIM)]
+OBJECTS += [*FIELDS, gravelox.SimulatorGenerator.Pool(FIELDS), gravelox.RNG(1)]
+OBJECTS += [gravelox.SimulatorGenerator.TBSIM(FOUR, COVS[:1], 1, 3, 1, 2)]
+for made in (gravelox.gaussian_distribution(), gravelox.data_distribution([1, 2, 2])):
+    OBJECTS += [made, gravelox.PDF(made), gravelox.CDF(made), gravelox.NScore(made, made)]
 
 
 def values_of(name, kind):
     """Arguments of a kind, as its signature writes it; what says how much to make stays small."""
     ends = ("n_samples_by_dh", "size", "nx", "ny", "nz")
-    if kind == "int" and (name.startswith("n_") or name.endswith(ends)):
+    if kind == "int" and (name.startswith("n_") or name.endswith(ends) or name == "n"):
         return SMALL
     if kind in SIMPLE:
         return SIMPLE[kind]

@@ -9,6 +9,7 @@ import gravelox
 import numpy as np
 import pytest
 from oracles.estimation import limited, structures
+from scipy.stats import norm
 
 EXAMPLES = Path(__file__).parents[2] / "examples"
 
@@ -85,15 +86,78 @@ def test_variography_of_stripes(tmp_path, rng):
         assert (tmp_path / name).read_bytes()[:4] == b"\x89PNG"
 
 
+@pytest.mark.filterwarnings("ignore")
+def test_scores_are_those_of_the_middles_of_shares(rng, monkeypatch):
+    monkeypatch.syspath_prepend(EXAMPLES)
+    from support.scores import cell_weights, normal_scores
+
+    values = rng.integers(0, 30, 200) / 10  # with ties
+    places = rng.uniform(0, 100, (200, 3)) * (1, 1, 0)
+    weights = cell_weights(places, 20)
+    assert np.isclose(weights.sum(), 25)
+    below = np.array([weights[values < one].sum() for one in values])
+    upto = np.array([weights[values <= one].sum() for one in values])
+    transform = normal_scores(values, weights)
+    assert np.allclose(transform.forward(values), norm.ppf((below + upto) / 2 / weights.sum()))
+    assert np.allclose(transform.backward(transform.forward(values)), values)
+
+
+@pytest.mark.filterwarnings("ignore")
+@pytest.mark.parametrize("flat", [True, False])
+def test_a_known_variogram_of_scores_is_fitted(rng, monkeypatch, flat):
+    monkeypatch.syspath_prepend(EXAMPLES)
+    from support.samples import Samples
+    from support.scores import fitted_model, given_model, ways
+
+    corners = np.array([(0, 0, 0), (100, 100, 0 if flat else 40)])
+    samples = Samples(
+        corners, np.array([1.0, 2.0]), np.empty(0, np.int32), ("x", "y", "z"), "grade"
+    )
+    true = given_model(samples, 0.2, (30.0, 30.0, 30.0 if flat else 10.0), (90.0, 0.0, 0.0))
+    covariance = gravelox.covariance_computer(true.covariances())
+    lags = rng.normal(0, 30, (20000, 3)) * (1, 1, 0 if flat else 0.3)
+    semivariances = 1 - np.array(covariance(lags))
+    found = fitted_model(
+        samples,
+        gravelox.ExperimentalVariogram(lags, semivariances, [1] * 20000, [0] * 20000, [lags[0]]),
+    )
+    for way in ways(samples):
+        lengths = np.linspace(1, way.reach, 50)
+        misfits = found.variogram(way, lengths) - true.variogram(way, lengths)
+        assert np.abs(misfits).max() < 0.05
+
+
+def test_terrain_is_simulated(tmp_path):
+    command = [sys.executable, EXAMPLES / "conditional_simulation.py", "--out", tmp_path]
+    command += ["--every", "12", "--realisations", "19", "--lines", "60"]
+    ended = subprocess.run(command, capture_output=True, text=True, timeout=120, check=True)
+    missed = re.search(r"^samples on the line +\d+, missed by (\S+) at most$", ended.stdout, re.M)
+    assert missed
+    assert float(missed[1]) < 1e-6
+    held = re.search(r"^10% to 90% +80.0% +(\S+)%", ended.stdout, re.M)
+    assert held
+    assert abs(float(held[1]) - 80) < 5
+    blocks = np.genfromtxt(tmp_path / "blocks.csv", delimiter=",", names=True)
+    assert np.all(blocks["q10"] <= blocks["q50"])
+    assert np.all(blocks["q50"] <= blocks["q90"])
+    above = blocks[blocks.dtype.names[-1]]
+    assert 0.15 < above.mean() < 0.35  # the cut-off is the upper quartile of the samples
+    for name in ("realisations", "risk", "reproduction", "line"):
+        assert (tmp_path / f"{name}.png").read_bytes()[:4] == b"\x89PNG"
+
+
 def test_bad_files_end_the_examples_with_one_line(tmp_path):
     path = tmp_path / "samples.csv"
     on_line = "x,y,value\n" + "".join(f"{i},0,{i % 3}\n" for i in range(20))
+    on_hole = "x,y,z,value\n" + "".join(f"0,0,{i},{i % 3}\n" for i in range(20))
     for script, text, message in (
         ("block_model.py", None, "cannot be read"),
         ("block_model.py", "x,y,grade\n1,2,3\n", 'no column "value"'),
         ("block_model.py", "x,y,value\n1,2,much\n", '"much" is not a number'),
         ("variography.py", "x,y,value\n1,2,much\n", '"much" is not a number'),
         ("variography.py", on_line, "found them in line"),
+        ("conditional_simulation.py", "x,y,value\n1,2,much\n", '"much" is not a number'),
+        ("conditional_simulation.py", on_hole, "found them in one vertical line"),
     ):
         if text:
             path.write_text(text)

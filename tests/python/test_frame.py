@@ -21,10 +21,16 @@ NAMES = """
     optimize_rotation extreme_points generate_rotations generate_ellipsoids
     Kernel Covariance covariance_computer generate_covariances
     CartesianGrid BlockModel BoundingBox create_random_drillholes
+    SimulatorFactory SimulatorGenerator unconditional_ensemble_simulation simulate simulator
+    FIM TBSIM RNG Distribution PDF CDF NScore gaussian_distribution lognormal_distribution
+    student_t_distribution fisher_f_distribution cauchy_distribution chi_squared_distribution
+    extreme_value_distribution weibull_distribution exponential_distribution uniform_distribution
+    gamma_distribution data_distribution
     Estimator IDW SimpleKriging OrdinaryKriging
     compute_simple_kriging compute_ordinary_kriging moving_window_estimation
     ExperimentalVariogram variogram_computer compute_variogram compute_exp_variogram
-    smooth_variogram fft fft.SpectralData1D fft.project_to_line fft.project_back_to_source
+    smooth_variogram LocalCovariances
+    fft fft.SpectralData1D fft.project_to_line fft.project_back_to_source
 """
 
 

@@ -52,6 +52,22 @@ VARIOGRAMS = {
 for name, given in VARIOGRAMS.items():
     PARALLEL[name] = partial(getattr(gravelox, name), **given)
 PARALLEL["smooth_variogram"] = partial(gravelox.smooth_variogram, VARIO, 9, 5, 9, 5, 1, 0.5, 3)
+FIELD, NORMAL = gravelox.TBSIM(TARGETS, COVS[1], 1, 20), gravelox.gaussian_distribution()
+LOCAL = gravelox.LocalCovariances(SAMPLES[:3], [COVS[1:]] * 3, [1, 2, 3])
+ENSEMBLE = LOCAL, gravelox.SimulatorFactory.TBSIM(TARGETS, 9), 0.5, 2, 1
+simulate, Generator = gravelox.simulate, gravelox.SimulatorGenerator
+simulate = partial(simulate, FIELD, gravelox.IDW(2, 0.5, 8))
+ensemble = gravelox.unconditional_ensemble_simulation
+freeze, spread = partial(Generator.TBSIM, TARGETS, COVS[1], 1, 9), SAMPLES * 30
+PARALLEL["SimulatorGenerator.TBSIM"] = lambda n_threads: freeze(n_threads, 20)(3)(spread)
+PARALLEL["SpatialFunction.__call__"] = partial(FIELD, SAMPLES)
+PARALLEL["simulate"] = partial(simulate, TARGETS, HOOD, SAMPLES, VALUES)
+PARALLEL["unconditional_ensemble_simulation"] = partial(ensemble, SAMPLES, *ENSEMBLE)
+VIEWS = [gravelox.PDF(NORMAL), gravelox.CDF(NORMAL), gravelox.NScore(NORMAL, NORMAL)]
+LISTS = [(v, n) for v in VIEWS for n in ("values", "probs", "forward", "backward") if hasattr(v, n)]
+for view, name in LISTS:
+    call = partial(getattr(view, name), DATA.uniform(0, 1, 300))
+    PARALLEL[f"{type(view).__name__}.{name}"] = call
 
 
 def numbers(result):
@@ -69,8 +85,9 @@ def test_the_table_of_threads_is_whole():
     # IDW and its like stand for Estimator.__call__.
     parallel = {o.name for o in OVERLOADS if ("n_threads", "int") in o.arguments}
     known = {*PARALLEL, "Estimator.__call__", "check_n_threads", "set_fft_n_threads"}
-    # Each thread of optimize_rotation draws candidates from an engine of its own.
-    assert parallel - known == {"optimize_rotation"}
+    # Each thread draws candidates, phases or values from an engine of its own.
+    drawing = {"optimize_rotation", "FIM", "SimulatorFactory.FIM", "SimulatorGenerator.FIM"}
+    assert parallel - known == {*drawing, "Distribution.simulate"}
 
 
 @pytest.mark.parametrize("name", ESTIMATIONS)
@@ -103,7 +120,8 @@ BLOCKS = gravelox.BlockModel(GRID, [False] * 22 + [True] * 2)
 FOREST = gravelox.DynamicNeighborhood([NULL])
 KERNEL, BROKEN = gravelox.Kernel.gaussian, gravelox.Ellipsoid(np.full((3, 3), math.nan))
 Grid, Hood, Growing = gravelox.CartesianGrid, gravelox.Neighborhood, gravelox.DynamicNeighborhood
-NOT_MADE = ("SpatialFunction", "EllipsoidInfo", "Kernel", "Covariance", "Estimator")
+NOT_MADE = ["SpatialFunction", "EllipsoidInfo", "Kernel", "Covariance", "Estimator"]
+NOT_MADE += ["SimulatorFactory", "SimulatorGenerator", "Distribution"]
 
 
 REFUSED = [
@@ -172,6 +190,40 @@ REFUSED += [
     for call, names, *values in CHANGES
     for name in names.split()
     for value in values
+]
+Local, Factory, from_data = LOCAL.__class__, gravelox.SimulatorFactory, gravelox.data_distribution
+SHORT, FIM, BAND = Local([], [], []), gravelox.FIM, (TARGETS, COVS[1], 1, 4, 1)
+SHORT.errors = [1]
+SIZES = ((100000,), (3, 2000000, 100000), (2**31 - 1,) * 3)
+MADE = [gravelox.TBSIM, FIM, Generator.TBSIM, Generator.FIM]
+MADE += [lambda corners, *rest: Factory.TBSIM(corners, 4)(COVS, 1)]
+MADE += [lambda corners, *rest: Factory.FIM(corners, 4)(COVS, 1)]
+REFUSED += [
+    ("corners", make, (c, COVS[1], 1, 4)) for make in MADE for c in ([], [NULL, NAN], [INF])
+]
+REFUSED += [("corners", make, ([INF], COVS, 1, 4)) for make in MADE]
+REFUSED += [(f"n.*{n[-1]}", FIM, (TARGETS, COVS[1], 1, *n)) for n in SIZES]
+REFUSED += [(f"n.*{n[-1]}", Generator.FIM, (TARGETS, COVS, 1, *n)) for n in SIZES]
+REFUSED += [(f"n_base.*points.*{n}", Generator.TBSIM, (*BAND, n)) for n in (20000, -1)]
+WEIGHTS = [1], [1, -1], [0, 0], [1, math.nan], [1e308] * 2
+REFUSED += [("weight", from_data, ([1, 2], w)) for w in WEIGHTS]
+REFUSED += [("m", gravelox.fisher_f_distribution, (1e16, 3))]  # would not end
+REFUSED += [("n: .*-1", call, (-1,)) for call in (NORMAL.simulate, NORMAL.histogram, NORMAL.cdf)]
+REFUSED += [
+    ("cov", gravelox.TBSIM, (TARGETS, gravelox.Covariance.spherical(1, BROKEN), 1, 4)),
+    ("target_locs", simulate, ([NAN], HOOD, SAMPLES, VALUES)),
+    ("data: .*300.*299", simulate, (TARGETS, HOOD, SAMPLES, VALUES[1:])),
+    ("data_locs|neighborhood", simulate, (TARGETS, HOOD, SAMPLES[1:], VALUES[1:])),
+    ("covariances: .*1.*0", Local, ([NULL], [], [1])),
+    ("errors: .*0.*1", Local, ([], [], [1])),
+    ("errors|local_covs", ensemble, ([], SHORT, *ENSEMBLE[1:], 1)),
+    ("errors|local_covs", Generator.Ensemble, (SHORT, *ENSEMBLE[1:])),
+    ("locations", FIELD, ([NULL, INF],)),
+    ("Data must have at least 2 elements$", from_data, ([1],)),
+    ("data: .*finite", from_data, ([1, math.nan],)),
+    ("n: .*-1", NORMAL.simulate, (-1, 1, 1)),
+    (".*Degrees of .* is 0, but must be > 0 !", gravelox.student_t_distribution, (0,)),
+    (".*Scale parameter is -1, but must be > 0 !", gravelox.gaussian_distribution, (0, -1)),
 ]
 FAILURES = [
     (RuntimeError, "invalid index$", BLOCKS, NULL),
