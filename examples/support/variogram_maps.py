@@ -39,7 +39,7 @@ def map_of_terrain(truth: Truth) -> Map:
     """All cells of the elevation model."""
     counts = np.array([*truth.values.shape, 1])
     grid = gravelox.CartesianGrid(counts * truth.cell_size, counts)
-    lags = _lags(grid, grid.locations(), truth.values.ravel())
+    lags = _lags(grid, np.array(grid.locations()), truth.values.ravel())
     title = f"all {truth.values.size:,} cells of the terrain, {variance_text(truth.values)}"
     return Map(title, lags, truth.cell_size)
 
