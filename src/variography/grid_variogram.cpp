@@ -23,9 +23,7 @@ namespace {
 
 constexpr double missing = std::numeric_limits<double>::quiet_NaN();
 
-void check_data(const location_list& locations, const std::vector<double>& data) {
-  check_same_size("data", data.size(), locations.size(), "location");
-  check_finite("locations", locations);
+void check_data(const std::vector<double>& data) {
   for (const double value : data) {
     if (std::isinf(value)) refuse("data", "numbers, or NaN where missing", "an infinite value");
   }
@@ -51,13 +49,14 @@ int cell_of(const location& point, const CartesianGrid& grid) {
   return grid.index(static_cast<int>(i), static_cast<int>(j), static_cast<int>(k));
 }
 
-/// A value for each cell of the grid. Values are written in the order of the list, so that the last
-/// one in a cell stays whatever the number of threads.
-std::vector<double> scatter(const location_list& locations, const std::vector<double>& data,
+/// A value for each cell of the grid, of the data at location_at(i). Values are written in the
+/// order of the list, so that the last one in a cell stays whatever the number of threads.
+template <typename LocationAt>
+std::vector<double> scatter(const LocationAt& location_at, const std::vector<double>& data,
                             const CartesianGrid& grid, int n_threads) {
-  std::vector<int> cells(locations.size());
-  parallel_for(locations.size(), n_threads, [&](std::size_t i, int /*thread_number*/) {
-    cells[i] = cell_of(locations[i], grid);
+  std::vector<int> cells(data.size());
+  parallel_for(data.size(), n_threads, [&](std::size_t i, int /*thread_number*/) {
+    cells[i] = cell_of(location_at(i), grid);
   });
   std::vector<double> values(grid.size(), missing);
   for (std::size_t i = 0; i < cells.size(); ++i) {
@@ -256,14 +255,14 @@ experimental_variogram with_pairs(lag_cloud cloud, const std::vector<lag_mean>& 
   return builder.build(std::move(cloud.directions));
 }
 
-}  // namespace
-
-experimental_variogram compute_variogram(const location_list& corners,
-                                         const location_list& locations,
-                                         const std::vector<double>& data, int nx, int ny, int nz,
-                                         int n_directions, int n_lags, double bandwidth,
-                                         int n_threads, std::int64_t seed, const location& origin,
-                                         const location& rotation) {
+/// The variogram of data at location_at(i), on a working grid over the corners.
+template <typename LocationAt>
+experimental_variogram variogram_of(const location_list& corners, const LocationAt& location_at,
+                                    const std::vector<double>& data, const cell_triple& counts,
+                                    int n_directions, int n_lags, double bandwidth, int n_threads,
+                                    std::int64_t seed, const location& origin,
+                                    const location& rotation) {
+  const auto [nx, ny, nz] = counts;
   check_at_least("nx", nx, 1);
   check_at_least("ny", ny, 1);
   check_at_least("nz", nz, 1);
@@ -274,15 +273,30 @@ experimental_variogram compute_variogram(const location_list& corners,
   check_finite("bandwidth", bandwidth);
   check_finite("origin", origin);
   check_finite("rotation", rotation);
-  check_data(locations, data);
+  check_data(data);
 
   const CartesianGrid grid = working_grid(corners, {nx, ny, nz}, origin, rotation, n_threads);
   const variogram_map map =
-      compute_variogram_map(scatter(locations, data, grid, n_threads), grid.number_of_cells(),
+      compute_variogram_map(scatter(location_at, data, grid, n_threads), grid.number_of_cells(),
                             {nx / 2, ny / 2, nz / 2}, n_threads);
   lag_cloud cloud = draw_lags(grid, n_directions, n_lags, seed);
   const std::vector<lag_mean> means = fold(map, grid, cloud.lags, bandwidth, n_threads);
   return with_pairs(std::move(cloud), means);
+}
+
+}  // namespace
+
+experimental_variogram compute_variogram(const location_list& corners,
+                                         const location_list& locations,
+                                         const std::vector<double>& data, int nx, int ny, int nz,
+                                         int n_directions, int n_lags, double bandwidth,
+                                         int n_threads, std::int64_t seed, const location& origin,
+                                         const location& rotation) {
+  check_same_size("data", data.size(), locations.size(), "location");
+  check_finite("locations", locations);
+  const auto location_at = [&](std::size_t i) { return locations[i]; };
+  return variogram_of(corners, location_at, data, {nx, ny, nz}, n_directions, n_lags, bandwidth,
+                      n_threads, seed, origin, rotation);
 }
 
 experimental_variogram compute_variogram(const CartesianGrid& cartesian_grid,
@@ -290,9 +304,11 @@ experimental_variogram compute_variogram(const CartesianGrid& cartesian_grid,
                                          int n_lags, double bandwidth, int n_threads,
                                          std::int64_t seed, int nx, int ny, int nz) {
   check_same_size("data", data.size(), cartesian_grid.size(), "cell of the grid");
-  return compute_variogram(cartesian_grid.corners(), cartesian_grid.locations(), data, nx, ny, nz,
-                           n_directions, n_lags, bandwidth, n_threads, seed,
-                           cartesian_grid.origin(), cartesian_grid.rotation());
+  // A list of all locations would take three times the memory of the data.
+  const auto location_at = [&](std::size_t i) { return cartesian_grid(static_cast<int>(i)); };
+  return variogram_of(cartesian_grid.corners(), location_at, data, {nx, ny, nz}, n_directions,
+                      n_lags, bandwidth, n_threads, seed, cartesian_grid.origin(),
+                      cartesian_grid.rotation());
 }
 
 experimental_variogram compute_variogram(const BlockModel& block_model,
