@@ -207,6 +207,48 @@ def spectra():
     yield "project_back_to_source", back
 
 
+def distributions():
+    data = gx.data_distribution(VALUES, [1.0 + i % 4 for i in range(len(VALUES))])
+    chances = [0.001, 0.1, 0.35, 0.5, 0.9, 0.9999]
+    for name, dist in (
+        ("data", data),
+        ("gaussian", gx.gaussian_distribution(1.0, 2.0)),
+        ("gamma", gx.gamma_distribution(2.5, 0.7)),
+        ("student_t", gx.student_t_distribution(4.0)),
+    ):
+        places = gx.CDF(dist).probs(chances)
+        yield f"CDF.probs.{name}", places
+        yield f"CDF.values.{name}", gx.CDF(dist).values(places)
+        yield f"PDF.values.{name}", gx.PDF(dist).values(places)
+        yield f"Distribution.simulate.{name}", dist.simulate(20, 5)
+        yield f"Distribution.simulate_1.{name}", dist.simulate(20, n_threads=1, seed=5)
+    scores = gx.NScore(data, gx.gaussian_distribution())
+    yield "NScore", [scores.forward(VALUES), scores.backward([-9.0, -1.0, 0.3, 2.0, 9.0])]
+
+
+def simulation():
+    corners, one = GRID.corners(), {"n_threads": 1}
+    shapes = ("spherical", "gaussian", "exponential")
+    covs = [getattr(gx.Covariance, shape)(0.5, ELLIPSOID) for shape in shapes]
+    for shape, cov in zip(shapes, covs):
+        yield f"TBSIM.{shape}", gx.TBSIM(corners, cov, 3, 70)(TARGETS)
+        yield f"FIM.{shape}", gx.FIM(corners, cov, 3, 12, 9, 8, **one)(TARGETS)
+    field = gx.TBSIM(corners, covs, 4, 50)
+    yield "TBSIM", field(TARGETS)
+    frozen = {"n_base_simulation_points": 8, **one}
+    views = gx.SimulatorGenerator.TBSIM(corners, covs, 5, n=40, **frozen)
+    yield "SimulatorGenerator.TBSIM", views(6)(TARGETS)
+    views = gx.SimulatorGenerator.FIM(corners, covs, 5, n=8, **frozen)
+    yield "SimulatorGenerator.FIM", views(6)(TARGETS)
+    yield "SimulatorGenerator.Pool", gx.SimulatorGenerator.Pool([field, views(7)])(8)(TARGETS)
+    local = gx.LocalCovariances(TARGETS[:3], [[cov] for cov in covs], [1.0, 0.5, 2.0])
+    factory = gx.SimulatorFactory.TBSIM(corners, 40)
+    blend = gx.unconditional_ensemble_simulation(TARGETS, local, factory, 0.7, 2.0, 9, 1)
+    yield "unconditional_ensemble_simulation", blend
+    kriging = gx.SimpleKriging(covs, 0.0, max_neighbors=12)
+    yield "simulate", gx.simulate(field, kriging, TARGETS, NEIGHBORHOOD, SAMPLES, VALUES, 1)
+
+
 FAMILIES = (
     samplers,
     ellipsoids,
@@ -217,6 +259,8 @@ FAMILIES = (
     estimations,
     variograms,
     spectra,
+    distributions,
+    simulation,
 )
 
 
