@@ -5,6 +5,10 @@
 #include <omp.h>
 #include <pthread.h>
 
+#include <cstddef>
+
+#include "common/integer.hpp"
+#include "common/parallel_for.hpp"
 #include "common/threads.hpp"
 
 namespace gravelox {
@@ -12,6 +16,13 @@ namespace gravelox {
 namespace {
 
 bool fft_threads_ready = false;
+
+/// Runs the jobs of a transform on the threads of the parallel loops. The library has threads of
+/// its own, but two pools take the cores from each other, as both wait busily for work.
+void run_jobs(void* (*work)(char*), char* jobs, std::size_t job_size, int n_jobs, void* /*data*/) {
+  parallel_for(to_size(n_jobs), n_jobs,
+               [&](std::size_t i, int /*thread_number*/) { work(jobs + i * job_size); });
+}
 
 }  // namespace
 
@@ -23,8 +34,9 @@ std::recursive_mutex& fft_mutex() {
 void ready_fft_threads() {
   if (fft_threads_ready) return;
   fftw_init_threads();
-  // The library keeps its threads from one transform to the next, and a forked process has none of
-  // them: it would wait for them for ever.
+  fftw_threads_set_callback(&run_jobs, nullptr);
+  // A forked process has none of the threads that the parallel loops left behind: it would wait for
+  // them for ever.
   pthread_atfork(nullptr, nullptr, [] { fftw_plan_with_nthreads(1); });
   fft_threads_ready = true;
 }
