@@ -30,6 +30,14 @@ void refuse(std::string_view name, const std::string& expected, const std::strin
   throw std::invalid_argument(text_of(name, ": expected ", expected, ", got ", got));
 }
 
+void refuse(std::string_view name, const std::string& expected, double got) {
+  refuse(name, expected, text_of(got));
+}
+
+std::string text_of_sizes(long long nx, long long ny, long long nz) {
+  return text_of(nx, " x ", ny, " x ", nz);
+}
+
 void check_same_size(std::string_view name, std::size_t size, std::size_t expected,
                      std::string_view per) {
   if (size != expected) refuse(name, text_of(expected, " values, one per ", per), text_of(size));

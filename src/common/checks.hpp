@@ -22,6 +22,12 @@ namespace gravelox {
 [[noreturn]] void refuse(std::string_view name, const std::string& expected,
                          const std::string& got);
 
+/// The same for a number, as streams print it: six digits, and an exponent where it is shorter.
+[[noreturn]] void refuse(std::string_view name, const std::string& expected, double got);
+
+/// "nx x ny x nz", for messages about grids and arrays.
+std::string text_of_sizes(long long nx, long long ny, long long nz);
+
 /// `size` values where `expected` are wanted; `per` says one for each of what ("location").
 void check_same_size(std::string_view name, std::size_t size, std::size_t expected,
                      std::string_view per);

@@ -3,8 +3,6 @@
 
 #include <unistd.h>
 
-#include <string>
-
 #include "common/checks.hpp"
 
 namespace gravelox {
@@ -15,8 +13,7 @@ void check_grid_memory(std::string_view name, const std::array<int, 3>& sizes, d
       static_cast<double>(sysconf(_SC_PHYS_PAGES)) * static_cast<double>(sysconf(_SC_PAGE_SIZE));
   if (n_cells * n_arrays * sizeof(double) > memory) {
     refuse(name, "a grid that fits in memory",
-           std::to_string(sizes[0]) + " x " + std::to_string(sizes[1]) + " x " +
-               std::to_string(sizes[2]) + " cells");
+           text_of_sizes(sizes[0], sizes[1], sizes[2]) + " cells");
   }
 }
 

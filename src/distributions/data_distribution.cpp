@@ -6,9 +6,7 @@
 #include <cstddef>
 #include <memory>
 #include <numeric>
-#include <sstream>
 #include <stdexcept>
-#include <string>
 #include <utility>
 
 #include "common/checks.hpp"
@@ -26,11 +24,7 @@ void check_weights(const std::vector<double>& weight, std::size_t n) {
   check_same_size("weight", weight.size(), n, "datum");
   check_finite("weight", weight);
   for (const double w : weight) {
-    if (w < 0.0) {
-      std::ostringstream got;
-      got << w;
-      refuse("weight", "no negative weight", got.str());
-    }
+    if (w < 0.0) refuse("weight", "no negative weight", w);
   }
   const double sum = std::accumulate(weight.begin(), weight.end(), 0.0);
   if (sum == 0.0 || std::isinf(sum)) {

@@ -13,7 +13,6 @@
 #include <boost/math/distributions/students_t.hpp>
 #include <boost/math/distributions/uniform.hpp>
 #include <boost/math/distributions/weibull.hpp>
-#include <sstream>
 #include <string_view>
 
 #include "common/checks.hpp"
@@ -39,11 +38,7 @@ real_dist from(const Distribution& dist) {
 /// does not change any more.
 void check_degrees_of_freedom(std::string_view name, double value) {
   constexpr double most = 1e15;
-  if (value > most) {
-    std::ostringstream got;
-    got << value;
-    refuse(name, "at most 1e15 degrees of freedom", got.str());
-  }
+  if (value > most) refuse(name, "at most 1e15 degrees of freedom", value);
 }
 
 }  // namespace

@@ -63,6 +63,11 @@ struct line_view {
   double x, y, z;
 };
 
+template <typename Directions>
+line_view view_of(const Directions& of, const location& point) {
+  return {of.x.size(), of.x.data(), of.y.data(), of.z.data(), point.x(), point.y(), point.z()};
+}
+
 /// Lines are taken in chunks whose intermediate values stay in the nearest cache.
 constexpr std::size_t chunk_size = 64;
 using chunk = std::array<double, chunk_size>;
@@ -143,11 +148,12 @@ void line_field::add(const cosine_line& line, double weight) {
 }
 
 void line_field::add(const sign_line& line, double weight) {
+  // Every place of a sign has to be an int, that of the last one too.
+  const int end = to_int(weighted_signs_.size() + line.signs.size());
   sign_directions_.add(line.direction);
   origins_.push_back(line.origin);
   last_cells_.push_back(static_cast<double>(line.signs.size() - 1));
-  to_int(weighted_signs_.size() + line.signs.size());  // every place has to be an int
-  first_cells_.push_back(to_int(weighted_signs_.size()));
+  first_cells_.push_back(end - to_int(line.signs.size()));
   for (const double sign : line.signs) weighted_signs_.push_back(sign * weight);
 }
 
@@ -155,13 +161,7 @@ double line_field::operator()(const location& point) const {
   lanes sums{};
   if (!phases_.empty()) add_cosine_lines(point, sums.data());
   if (!origins_.empty()) {
-    const line_view lines{origins_.size(),
-                          sign_directions_.x.data(),
-                          sign_directions_.y.data(),
-                          sign_directions_.z.data(),
-                          point.x(),
-                          point.y(),
-                          point.z()};
+    const line_view lines = view_of(sign_directions_, point);
     add_sawtooths(lines, origins_.data(), last_cells_.data(), first_cells_.data(),
                   weighted_signs_.data(), sums.data());
   }
@@ -171,13 +171,7 @@ double line_field::operator()(const location& point) const {
 }
 
 void line_field::add_cosine_lines(const location& point, double* sums) const {
-  const line_view lines{phases_.size(),
-                        cosine_directions_.x.data(),
-                        cosine_directions_.y.data(),
-                        cosine_directions_.z.data(),
-                        point.x(),
-                        point.y(),
-                        point.z()};
+  const line_view lines = view_of(cosine_directions_, point);
   if (greatest_frequency_ * point.norm() < greatest_angle) {
     add_cosines(lines, phases_.data(), cosine_weights_.data(), sums);
   } else {

@@ -6,7 +6,6 @@
 #include <limits>
 #include <sstream>
 #include <stdexcept>
-#include <string>
 
 #include "common/checks.hpp"
 #include "common/integer.hpp"
@@ -23,8 +22,7 @@ std::size_t checked_size(const cell_triple& counts) {
   // Two counts of 31 bits stay within 64; the third is multiplied only if those two fit.
   const std::int64_t plane = std::int64_t{ny} * nz;
   if (plane > most_cells || plane * nx > most_cells) {
-    refuse("number_of_cells", "at most 2147483647 cells in all",
-           std::to_string(nx) + " x " + std::to_string(ny) + " x " + std::to_string(nz));
+    refuse("number_of_cells", "at most 2147483647 cells in all", text_of_sizes(nx, ny, nz));
   }
   return static_cast<std::size_t>(plane * nx);
 }

@@ -57,10 +57,6 @@ void plan_and_execute(const MakePlan& make_plan) {
   fftw_destroy_plan(plan);
 }
 
-std::string text_of(std::int64_t nx, std::int64_t ny, std::int64_t nz) {
-  return std::to_string(nx) + " x " + std::to_string(ny) + " x " + std::to_string(nz);
-}
-
 /// A spectrum of three dimensions has those of its array; of fewer, it has at least the elements
 /// that are read.
 void check_spectrum(const complex_array& spectrum, const array& result) {
@@ -71,8 +67,8 @@ void check_spectrum(const complex_array& spectrum, const array& result) {
   if (spectrum.n_dims() == 1) fits = spectrum.size() >= nx / 2 + 1;
   if (spectrum.n_dims() == 2) fits = spectrum.size() >= nx * (ny / 2 + 1);
   if (!fits) {
-    refuse("spectrum", "that of an array of " + text_of(nx, ny, result.nz()),
-           text_of(spectrum.nx(), spectrum.ny(), spectrum.nz_half()) + " elements");
+    refuse("spectrum", "that of an array of " + text_of_sizes(nx, ny, result.nz()),
+           text_of_sizes(spectrum.nx(), spectrum.ny(), spectrum.nz_half()) + " elements");
   }
 }
 

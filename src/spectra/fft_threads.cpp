@@ -51,7 +51,7 @@ void set_up_fft(int n_threads) {
   const std::lock_guard lock(fft_mutex());
   ready_fft_threads();
   omp_set_num_threads(check_n_threads(n_threads));
-  fftw_plan_with_nthreads(check_n_threads(n_threads));
+  set_fft_n_threads(n_threads);
 }
 
 }  // namespace gravelox

@@ -6,8 +6,6 @@
 #include <cmath>
 #include <cstddef>
 #include <numbers>
-#include <sstream>
-#include <string>
 #include <utility>
 
 #include "common/checks.hpp"
@@ -38,12 +36,6 @@ struct direction_setup {
   Ellipsoid search;
 };
 
-std::string text_of(double value) {
-  std::ostringstream text;
-  text << value;
-  return text.str();
-}
-
 /// A vector at right angles to the direction, not scaled to length 1.
 location perpendicular_direction(const location& direction, double tol, random_engine& engine) {
   constexpr int most_draws = 1000000;
@@ -55,7 +47,7 @@ location perpendicular_direction(const location& direction, double tol, random_e
     const double cosine = drawn.dot(direction);
     if (std::abs(std::abs(cosine) - 1.0) > tol) return drawn - cosine * direction;
   }
-  refuse("tol", "a tolerance that random vectors can meet, such as 0.01", text_of(tol));
+  refuse("tol", "a tolerance that random vectors can meet, such as 0.01", tol);
 }
 
 Ellipsoid search_ellipsoid(const location& axis, double scale, double bandwidth, double tol,
@@ -66,7 +58,7 @@ Ellipsoid search_ellipsoid(const location& axis, double scale, double bandwidth,
   matrix << axis.transpose() / (3.0 * scale), side.transpose() / (bandwidth * scale),
       other_side.transpose() / (bandwidth * scale);
   if (!matrix.allFinite()) {
-    refuse("bandwidth", "a width within the range of numbers", text_of(bandwidth));
+    refuse("bandwidth", "a width within the range of numbers", bandwidth);
   }
   return Ellipsoid(matrix);
 }
