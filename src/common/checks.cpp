@@ -2,21 +2,14 @@
 #include "common/checks.hpp"
 
 #include <cmath>
-#include <sstream>
 #include <stdexcept>
 #include <string>
+
+#include "common/text.hpp"
 
 namespace gravelox {
 
 namespace {
-
-/// Values as streams print them: six digits, and an exponent where it is shorter.
-template <typename... Parts>
-std::string text_of(const Parts&... parts) {
-  std::ostringstream text;
-  (text << ... << parts);
-  return text.str();
-}
 
 [[noreturn]] void refuse_location(std::string_view name, const location& value,
                                   const std::string& where) {

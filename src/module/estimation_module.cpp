@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "module/casters.hpp"
 
+#include "estimation/ensemble_estimation.hpp"
 #include "estimation/estimator.hpp"
 #include "estimation/inverse_distance.hpp"
 #include "estimation/kriging.hpp"
@@ -39,6 +40,14 @@ void bind_kriging_estimators(py::module_& m) {
         arg("max_neis_by_dhid") = -1, docs::ordinary_kriging);
 }
 
+void bind_ensemble_estimator(py::module_& m) {
+  m.def("EnsembleEstimation", &create_ensemble_estimator, arg("local_covs"),
+        arg("ellipsoid_search"), arg("max_neighbors"), arg("max_distance"), arg("max_cov_neis"),
+        arg("max_neis_octant"), arg("power_a"), arg("max_weight"), arg("run_normalization") = true,
+        arg("use_sk") = false, arg("sk_mean") = 0.0, no_dhids(), arg("max_neis_by_dhid") = -1,
+        docs::ensemble_estimation_estimator);
+}
+
 void bind_estimations(py::module_& m) {
   m.def("compute_simple_kriging", &compute_simple_kriging, arg("target_locs"), arg("data_locs"),
         arg("data"), arg("covs"), arg("mean"), arg("neighborhood"), arg("max_neighbors"),
@@ -48,6 +57,12 @@ void bind_estimations(py::module_& m) {
         arg("data"), arg("covs"), arg("neighborhood"), arg("max_neighbors"),
         arg("max_radius") = -1.0, arg("max_neighbors_octant") = -1, arg("n_threads") = 0,
         no_dhids(), arg("max_neis_by_dhid") = -1, release_gil(), docs::compute_ordinary_kriging);
+  m.def("compute_simple_ensemble_estimation", &compute_simple_ensemble_estimation,
+        arg("target_locs"), arg("data_locs"), arg("data"), arg("local_covs"),
+        arg("ellipsoid_search"), arg("n_neis"), arg("max_radius"), arg("max_neis_octant"),
+        arg("n_cov_neis"), arg("lambda_e"), arg("alpha"), arg("lambda_r"), arg("beta"),
+        arg("n_threads") = 0, no_dhids(), arg("max_neis_by_dhid") = -1, release_gil(),
+        docs::compute_simple_ensemble_estimation);
   m.def("moving_window_estimation", &moving_window_estimation, arg("target_locs"), arg("nei"),
         arg("data_locs"), arg("data"), arg("covs"), arg("max_neighbors"), arg("max_radius") = -1.0,
         arg("max_neighbors_octant") = -1, no_dhids(), arg("max_neis_by_dhid") = -1,
@@ -62,6 +77,7 @@ void register_estimation_module(py::module_& m) {
                                 arg("n_threads") = 0, docs::estimator_call);
   bind_idw(m);
   bind_kriging_estimators(m);
+  bind_ensemble_estimator(m);
   bind_estimations(m);
 }
 

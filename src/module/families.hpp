@@ -16,7 +16,12 @@ void register_simulation_module(py::module_& m);
 void register_distribution_module(py::module_& m);
 void register_estimation_module(py::module_& m);
 void register_variography_module(py::module_& m);
+void register_folds_module(py::module_& m);
 void register_optimization_module(py::module_& m);
+
+/// The last names of the family of optimisation: blends of local models.
+void register_ensembles(py::module_& m);
+
 void register_spectra_module(py::module_& m);
 
 /// Registers a class before the place of its name: a signature prints the Python name only of a

@@ -19,6 +19,7 @@ PYBIND11_MODULE(gravelox, m) {
   gravelox::register_distribution_module(m);
   gravelox::register_estimation_module(m);
   gravelox::register_variography_module(m);
+  gravelox::register_folds_module(m);
   gravelox::register_optimization_module(m);
   gravelox::register_spectra_module(m);
 }

@@ -10,6 +10,8 @@
 #include "common/parallel_for.hpp"
 #include "common/power.hpp"
 #include "common/random.hpp"
+#include "estimation/ensemble_estimation.hpp"
+#include "simulation/conditional_simulation.hpp"
 
 namespace gravelox {
 
@@ -105,6 +107,27 @@ SpatialFunction create_ensemble_simulator(const LocalCovariances& local_covs,
     return run_ensemble_simulation({point}, *simulators, max_weight, power_a, local_covs, 1)
         .front();
   };
+}
+
+std::vector<double> ensemble_simulation(
+    const location_list& target_locs, const location_list& data_locs,
+    const std::vector<double>& data, const LocalCovariances& local_covs,
+    const Ellipsoid& search_ellipsoid, const SimulatorFactory& simulator_factory, int max_size,
+    double max_distance, int max_cov_neis, int max_neis_octant, double power_a, double max_weight,
+    std::int64_t seed, int n_threads, const std::vector<int>& dhids, int max_neis_by_dhid) {
+  check_same_size("data", data.size(), data_locs.size(), "location");
+  check_finite("data_locs", data_locs);
+  check_finite("target_locs", target_locs);
+  check_ellipsoid("search_ellipsoid", search_ellipsoid);
+  if (!dhids.empty()) check_same_size("dhids", dhids.size(), data_locs.size(), "location");
+  // The samples are residuals of a field of mean 0.
+  const Estimator estimator = create_ensemble_estimator(
+      local_covs, search_ellipsoid, max_size, max_distance, max_cov_neis, max_neis_octant, power_a,
+      max_weight, false, true, 0.0, dhids, max_neis_by_dhid);
+  const SpatialFunction simulator =
+      create_ensemble_simulator(local_covs, simulator_factory, max_weight, power_a, seed);
+  return simulate(simulator, estimator, target_locs, Neighborhood(data_locs, search_ellipsoid),
+                  data_locs, data, n_threads);
 }
 
 }  // namespace gravelox

@@ -8,6 +8,7 @@
 
 #include "common/location.hpp"
 #include "simulation/simulators.hpp"
+#include "spatial/ellipsoid.hpp"
 #include "variography/local_covariances.hpp"
 
 namespace gravelox {
@@ -37,5 +38,21 @@ std::vector<double> unconditional_ensemble_simulation(const location_list& locs,
 SpatialFunction create_ensemble_simulator(const LocalCovariances& local_covs,
                                           const SimulatorFactory& sim_factory, double max_weight,
                                           double power_a, std::int64_t seed);
+
+/// That function made to honour samples, as simulate does. What the samples differ from it by is
+/// estimated by the same models (ensemble_estimation, simple kriging of mean 0 without
+/// normalisation), with samples and centres searched under the search ellipsoid; NaN at a target
+/// without samples.
+///
+/// Data are those of a Gaussian field of mean 0 with the sills of the models. Throws
+/// std::invalid_argument where lists differ in length, or coordinates or the ellipsoid are not
+/// finite, and what the factory throws.
+std::vector<double> ensemble_simulation(
+    const location_list& target_locs, const location_list& data_locs,
+    const std::vector<double>& data, const LocalCovariances& local_covs,
+    const Ellipsoid& search_ellipsoid, const SimulatorFactory& simulator_factory, int max_size,
+    double max_distance, int max_cov_neis, int max_neis_octant, double power_a, double max_weight,
+    std::int64_t seed, int n_threads = 0, const std::vector<int>& dhids = {},
+    int max_neis_by_dhid = -1);
 
 }  // namespace gravelox

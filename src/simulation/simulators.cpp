@@ -35,9 +35,7 @@ void check_corners(const location_list& corners) {
 
 void check_simulation(const location_list& corners, const Covariance& cov) {
   check_corners(corners);
-  if (!cov.ellipsoid.matrix().allFinite()) {
-    refuse("cov", "an ellipsoid with a finite matrix", "one with infinities or NaN");
-  }
+  check_ellipsoid("cov", cov.ellipsoid);
   for (const location& corner : corners) {
     check_finite("corners under the ellipsoid", cov.ellipsoid.forward(corner));
   }

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <cstdio>
 
+#include "common/checks.hpp"
 #include "common/integer.hpp"
 #include "common/parallel_for.hpp"
 #include "common/random.hpp"
@@ -113,6 +114,11 @@ std::string Ellipsoid::to_string() const {
   std::string text(static_cast<std::size_t>(print(nullptr, 0)), ' ');
   print(text.data(), text.size() + 1);
   return text;
+}
+
+void check_ellipsoid(std::string_view name, const Ellipsoid& ellipsoid) {
+  if (ellipsoid.matrix().allFinite()) return;
+  refuse(name, "an ellipsoid with a finite matrix", "one with infinities or NaN");
 }
 
 Ellipsoid Rotation(double azimuth, double dip, double rake) {

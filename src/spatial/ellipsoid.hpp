@@ -8,6 +8,7 @@
 #include <Eigen/Core>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -79,6 +80,10 @@ class Ellipsoid {
   Eigen::Matrix3d matrix_;
   Eigen::Matrix3d inv_matrix_;
 };
+
+/// Throws std::invalid_argument where the matrix of the ellipsoid, an argument of this name, is not
+/// finite: searches and distances need finite coordinates.
+void check_ellipsoid(std::string_view name, const Ellipsoid& ellipsoid);
 
 /// The unit sphere turned by the angles (degrees).
 Ellipsoid Rotation(double azimuth, double dip, double rake = 0.0);

@@ -58,8 +58,19 @@ GRAVELOX_VECTOR_CLONES void take_roots(const double* squares, std::size_t n, dou
 
 }  // namespace
 
-void lag_buffer::set(const location_list& data_locs, const std::vector<std::size_t>& neis,
+void lag_buffer::set(const location_list& data_locs, std::span<const std::size_t> neis,
                      const location& target, const location& origin) {
+  set_all(data_locs, neis, target, origin);
+}
+
+void lag_buffer::set(const location_list& data_locs, std::span<const std::uint32_t> neis,
+                     const location& target, const location& origin) {
+  set_all(data_locs, neis, target, origin);
+}
+
+template <typename Id>
+void lag_buffer::set_all(const location_list& data_locs, std::span<const Id> neis,
+                         const location& target, const location& origin) {
   size_ = neis.size();
   target_ = target - origin;
   for (array* coordinates : {&x_, &y_, &z_, &mapped_x_, &mapped_y_, &mapped_z_}) {

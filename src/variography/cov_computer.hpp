@@ -5,6 +5,8 @@
 
 #include <Eigen/Core>
 #include <cstddef>
+#include <cstdint>
+#include <span>
 #include <vector>
 
 #include "common/location.hpp"
@@ -20,7 +22,9 @@ class lag_buffer {
   /// Sets the samples of these indices and their target. Positions are kept relative to an origin
   /// near them: differences of real coordinates come first and the map after them, so that large
   /// coordinates cost no precision.
-  void set(const location_list& data_locs, const std::vector<std::size_t>& neis,
+  void set(const location_list& data_locs, std::span<const std::size_t> neis,
+           const location& target, const location& origin);
+  void set(const location_list& data_locs, std::span<const std::uint32_t> neis,
            const location& target, const location& origin);
 
   std::size_t size() const { return size_; }
@@ -28,6 +32,10 @@ class lag_buffer {
  private:
   friend class cov_computer;
   using array = Eigen::ArrayXd;
+
+  template <typename Id>
+  void set_all(const location_list& data_locs, std::span<const Id> neis, const location& target,
+               const location& origin);
 
   std::size_t size_ = 0;
   location target_;

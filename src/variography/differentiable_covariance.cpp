@@ -11,9 +11,11 @@ namespace {
 
 using std::sqrt;
 
+/// The root has no derivative at 0, but no shape depends on ranges and angles there.
 template <number T>
 T length(const Eigen::Matrix<T, 3, 1>& v) {
-  return sqrt(v[0] * v[0] + v[1] * v[1] + v[2] * v[2]);
+  const T square = v[0] * v[0] + v[1] * v[1] + v[2] * v[2];
+  return square == T(0.0) ? T(0.0) : sqrt(square);
 }
 
 }  // namespace

@@ -26,7 +26,7 @@ class generic_cov {
  public:
   explicit generic_cov(const generic_cov_structure<T>& structure);
 
-  /// sill * kernel(|M h|). At the zero lag a jet's derivatives are not numbers.
+  /// sill * kernel(|M h|). At the zero lag a jet has no derivatives but those of the sill.
   T operator()(const Eigen::Matrix<T, 3, 1>& h) const;
 
  private:

@@ -8,6 +8,7 @@
 #include <numbers>
 #include <utility>
 
+#include "common/checks.hpp"
 #include "common/vector_clones.hpp"
 
 namespace gravelox {
@@ -135,6 +136,15 @@ std::string to_text(covariance_type type) { return std::string(shape_of(type).te
 
 covariance_type to_covariance_type(std::string_view text) {
   return find_shape([text](const kernel_shape& shape) { return shape.text == text; }).type;
+}
+
+covariance_type to_fitted_type(std::string_view name, std::string_view text) {
+  const covariance_type type = to_covariance_type(text);
+  if (type == covariance_type::nugget || type == covariance_type::idw) {
+    refuse(name, "\"spherical\", \"gaussian\" or \"exponential\"",
+           '"' + std::string(text) + '"');
+  }
+  return type;
 }
 
 Kernel::Kernel(covariance_type type) : shape_(&shape_of(type)) {}
