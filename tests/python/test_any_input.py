@@ -28,6 +28,11 @@ FOUR = [(0, 0, 0), (1, 0, 0), (0, 2, 0), (0, 0, 0)]
 METRICS = [gravelox.Ellipsoid(np.full((3, 3), value)) for value in (0, math.nan)]
 METRICS.insert(0, gravelox.Ellipsoid(9, 4, 2, 10, 20, 30))
 GRID = gravelox.CartesianGrid((1, 1, 1), (2, 2, 1))
+FOLDS = [(FOUR * n, [1.0, 2.0, 3.0, 3.0] * n) for n in (4, 1, 0)]
+SIMPLE["tuple[list[numpy.ndarray[numpy.float64[3, 1]]], list[float]]"] = st.sampled_from(FOLDS)
+SIMPLE["str"] = st.sampled_from(["gaussian", "spherical", "nugget", ""])
+SIMPLE["Optional[gravelox.Neighborhood]"] = st.none()
+SIMPLE["object"] = st.sampled_from([lambda model, n_threads: len(model), None])
 COVS = [gravelox.Covariance.spherical(0.5, m) for m in METRICS] + [gravelox.Covariance.nugget(1)]
 OBJECTS = [*METRICS, *[m.info() for m in METRICS], *COVS]
 OBJECTS += [gravelox.Neighborhood(points, METRICS[0]) for points in ([], FOUR, FOUR * 4)]
@@ -38,6 +43,8 @@ OBJECTS += [gravelox.BoundingBox([]), gravelox.BoundingBox(FOUR), gravelox.Kerne
 OBJECTS += [gravelox.ExperimentalVariogram(FOUR[:n], *[[1, 0, 2, 1][:n]] * 3, FOUR) for n in (0, 4)]
 OBJECTS += [gravelox.fft.SpectralData1D(FOUR[1], FOUR[2])]
 OBJECTS += [gravelox.IDW(0.5, 0, 3, 2, 1, [1, 1, 2, 2], 1), gravelox.OrdinaryKriging(COVS[:1], 4)]
+OBJECTS += [gravelox.EllipsoidOptimizationParameters(n_rays=3, n_iterations=3, tol=0.9)]
+OBJECTS += [gravelox.EllipsoidLBFGSParameters(), gravelox.CovarianceErrorFunction.IDW(FOLDS[:2], 9)]
 LOCALS = [gravelox.LocalCovariances(FOUR[:n], [COVS] * n, [1, 0][:n]) for n in (0, 2)]
 LOCALS[0].centers = FOUR  # the lists no longer match
 OBJECTS += [
@@ -60,7 +67,7 @@ def values_of(name, kind):
     if kind in SIMPLE:
         return SIMPLE[kind]
     if kind.startswith("list["):
-        fitting = {"data": [1.0] * 4, "mask": [True] * 4, "dhids": [], "covs": COVS}
+        fitting = {"data": [1.0] * 4, "mask": [True] * 4, "dhids": [], "covs": COVS, "folds": FOLDS}
         return st.lists(values_of(name, kind[5:-1]), max_size=9) | st.just(fitting.get(name, FOUR))
     return st.sampled_from([o for o in OBJECTS if type(o).__name__ == kind.rpartition(".")[2]])
 

@@ -146,6 +146,21 @@ def test_terrain_is_simulated(tmp_path):
         assert (tmp_path / f"{name}.png").read_bytes()[:4] == b"\x89PNG"
 
 
+def test_a_model_of_stripes_is_found(tmp_path, rng):
+    places = rng.uniform(0, 1000, (500, 2))
+    across = places @ (np.cos(np.radians(60)), -np.sin(np.radians(60)))  # alike along N60E
+    rows = np.column_stack([places, np.sin(across / 60) + rng.normal(0, 0.1, 500)])
+    np.savetxt(tmp_path / "s.csv", rows, delimiter=",", header="x,y,value", comments="")
+    command = [sys.executable, EXAMPLES / "find_the_model.py", tmp_path / "s.csv"]
+    command += ["--tries", "60", "--groups", "4", "--threads", "2", "--out", tmp_path]
+    ended = subprocess.run(command, capture_output=True, text=True, timeout=120, check=True)
+    azimuth = re.search(r"^one ellipsoid .* azimuth (\d+), dip 0$", ended.stdout, re.MULTILINE)
+    assert azimuth
+    assert abs(int(azimuth[1]) - 60) < 10
+    assert "kriging, one model is better than kriging, isotropic" in ended.stdout
+    assert (tmp_path / "models.png").read_bytes()[:4] == b"\x89PNG"
+
+
 def test_bad_files_end_the_examples_with_one_line(tmp_path):
     path = tmp_path / "samples.csv"
     on_line = "x,y,value\n" + "".join(f"{i},0,{i % 3}\n" for i in range(20))
@@ -158,6 +173,7 @@ def test_bad_files_end_the_examples_with_one_line(tmp_path):
         ("variography.py", on_line, "found them in line"),
         ("conditional_simulation.py", "x,y,value\n1,2,much\n", '"much" is not a number'),
         ("conditional_simulation.py", on_hole, "found them in one vertical line"),
+        ("find_the_model.py", on_line, "found them in line"),
     ):
         if text:
             path.write_text(text)

@@ -26,10 +26,17 @@ NAMES = """
     student_t_distribution fisher_f_distribution cauchy_distribution chi_squared_distribution
     extreme_value_distribution weibull_distribution exponential_distribution uniform_distribution
     gamma_distribution data_distribution
-    Estimator IDW SimpleKriging OrdinaryKriging
-    compute_simple_kriging compute_ordinary_kriging moving_window_estimation
+    Estimator IDW SimpleKriging OrdinaryKriging EnsembleEstimation compute_simple_kriging
+    compute_ordinary_kriging compute_simple_ensemble_estimation moving_window_estimation
     ExperimentalVariogram variogram_computer compute_variogram compute_exp_variogram
-    smooth_variogram LocalCovariances
+    smooth_variogram create_folds kfold_cross_validation_using_idw kfold_cross_validation_using_sk
+    kfold_cross_validation_using_ok create_folds_using_multiscale multi_scale_cross_validation_error
+    LocalCovariances EllipsoidOptimizationParameters EllipsoidLBFGSParameters
+    CovarianceErrorFunction optimize_covariance optimize_ellipsoid_using_idw optimize_ellipsoid
+    compute_ellipsoid_error_idw optimize_ellipsoid_using_kfold compute_covariance_error_idw
+    optimize_covariance_using_idw optimize_local_ellipsoids optimize_local_ellipsoids_using_lbfgs
+    extract_covariance_from_varmap ensemble_model ensemble_ellipsoid ensemble_local_ellipsoids
+    ensemble_estimation ensemble_simulation
     fft fft.SpectralData1D fft.project_to_line fft.project_back_to_source
 """
 
@@ -76,6 +83,7 @@ def test_interpreter_lock(rng):
         lambda: gravelox.compute_ordinary_kriging(targets, locs, data, covs, hood, limit, **one),
         lambda: gravelox.compute_exp_variogram(locs, data, bandwidth=0.2, **one),
         lambda: gravelox.smooth_variogram(vario, 100, 0, 99, 99, 1, 1, 0, **one),
+        lambda: gravelox.kfold_cross_validation_using_ok(locs, data, covs, 9e9, **one),
     ):
         assert runs_beside(call)
     for call in (

@@ -68,6 +68,18 @@ LISTS = [(v, n) for v in VIEWS for n in ("values", "probs", "forward", "backward
 for view, name in LISTS:
     call = partial(getattr(view, name), DATA.uniform(0, 1, 300))
     PARALLEL[f"{type(view).__name__}.{name}"] = call
+fit, fit_map = gravelox.optimize_ellipsoid_using_kfold, gravelox.extract_covariance_from_varmap
+PARTS, blend = [(SAMPLES[:60], VALUES[:60])], gravelox.ensemble_local_ellipsoids
+MAP = SAMPLES, VALUES, VALUES, 1, "gaussian", 1, 1, 1, 9, 9, 9, 5, 20, 1, 0, 0, 9, 1
+SEVEN = SAMPLES[:7], [gravelox.Ellipsoid(i, 5, 2, 9 * i, 0, 0) for i in range(1, 8)], VALUES[:7]
+BLENDED, CUT = (TARGETS, SAMPLES, VALUES, LOCAL, METRIC), (9, -1, 2, -1, 2, 0.5)
+simulated, simple = gravelox.ensemble_simulation, gravelox.compute_simple_ensemble_estimation
+PARALLEL["ensemble_estimation"] = partial(gravelox.ensemble_estimation, *BLENDED, *CUT)
+PARALLEL["ensemble_simulation"] = partial(simulated, *BLENDED, ENSEMBLE[1], *CUT, 1)
+PARALLEL[simple.__name__] = partial(simple, *BLENDED, 9, -1, -1, 2, 1, 1, 0.1, 1)
+PARALLEL[blend.__name__] = lambda **n: [e.matrix() for e in blend(TARGETS, *SEVEN, **n)]
+PARALLEL[fit.__name__] = lambda **n: fit(PARTS, "gaussian", 40, 30, 20, **n).matrix()
+PARALLEL[fit_map.__name__] = lambda **n: fit_map(*MAP, **n)[0].ellipsoid().matrix()
 
 
 def numbers(result):
@@ -85,9 +97,14 @@ def test_the_table_of_threads_is_whole():
     # IDW and its like stand for Estimator.__call__.
     parallel = {o.name for o in OVERLOADS if ("n_threads", "int") in o.arguments}
     known = {*PARALLEL, "Estimator.__call__", "check_n_threads", "set_fft_n_threads"}
-    # Each thread draws candidates, phases or values from an engine of its own.
-    drawing = {"optimize_rotation", "FIM", "SimulatorFactory.FIM", "SimulatorGenerator.FIM"}
-    assert parallel - known == {*drawing, "Distribution.simulate"}
+    known |= {f"Ellipsoid{kind}Parameters.__init__" for kind in ("Optimization", "LBFGS")}
+    # Each thread draws candidates, phases or values, or has a share in a sum, of its own.
+    own = """optimize_rotation FIM SimulatorFactory.FIM SimulatorGenerator.FIM Distribution.simulate
+        kfold_cross_validation_using_idw kfold_cross_validation_using_sk optimize_covariance
+        kfold_cross_validation_using_ok multi_scale_cross_validation_error
+        compute_ellipsoid_error_idw compute_covariance_error_idw CovarianceErrorFunction.__call__
+        create_folds_using_multiscale optimize_ellipsoid_using_idw optimize_covariance_using_idw"""
+    assert parallel - known == {*own.split()}
 
 
 @pytest.mark.parametrize("name", ESTIMATIONS)
@@ -224,6 +241,20 @@ REFUSED += [
     ("n: .*-1", NORMAL.simulate, (-1, 1, 1)),
     (".*Degrees of .* is 0, but must be > 0 !", gravelox.student_t_distribution, (0,)),
     (".*Scale parameter is -1, but must be > 0 !", gravelox.gaussian_distribution, (0, -1)),
+]
+rate, folds = gravelox.CovarianceErrorFunction.IDW, gravelox.create_folds
+predict = partial(gravelox.kfold_cross_validation_using_sk, *PARTS[0], COVS, 9, -1)
+REFUSED += [
+    ("data_values: .*60.*300", folds, (SAMPLES[:60], VALUES, 9, 9, 3)),
+    ("min_partition_size", predict, (-1,)),
+    ("max_partition_size", predict, (10, 9)),
+    ("folds.*60.*300", rate, ([(SAMPLES[:60], VALUES)], 9)),
+    ("covs", gravelox.optimize_covariance, ([], rate(PARTS, 9))),
+    ("cov_type.*cubic", fit, (PARTS, "cubic", 9, 9, 9)),
+    ("max_partition_size.*15", fit, (PARTS, "gaussian", 9, 9, 9, 0, 0, 15, 15)),
+    ("weight: .*300.*299", fit_map, (*MAP[:2], VALUES[1:], *MAP[3:])),
+    ("azimuth: .*2.*1", gravelox.ensemble_model, (*[[1, 1]] * 3, [1], *[[1, 1]] * 3)),
+    ("data_nei|data_locs", PARALLEL["ensemble_estimation"], (0, True, Hood(TARGETS))),
 ]
 FAILURES = [
     (RuntimeError, "invalid index$", BLOCKS, NULL),
