@@ -23,6 +23,8 @@ void register_optimization_module(py::module_& m);
 void register_ensembles(py::module_& m);
 
 void register_spectra_module(py::module_& m);
+void register_rotation_module(py::module_& m);
+void register_mixture_module(py::module_& m);
 
 /// Registers a class before the place of its name: a signature prints the Python name only of a
 /// class that is registered. It stays alive until place_class.
