@@ -59,7 +59,7 @@ def choose_range(samples: Samples, shape: Model, limits: Limits) -> Model:
     they are. So the range is the one under which the share of left-out samples within their 80 %
     interval is nearest to 80 %.
     """
-    fold = _folds(samples)
+    fold = folds_left_out(samples)
 
     def misfit(model: Model) -> float:
         return abs(_left_out_coverage(samples, model, limits, fold) - SHARE)
@@ -67,7 +67,7 @@ def choose_range(samples: Samples, shape: Model, limits: Limits) -> Model:
     return min((shape.stretched(factor) for factor in STRETCHES), key=misfit)
 
 
-def _folds(samples: Samples) -> NDArray[np.int64]:
+def folds_left_out(samples: Samples) -> NDArray[np.int64]:
     """A fold number a sample; a drill hole stays whole, or its own samples would betray it."""
     group = samples.holes
     if len(np.unique(group)) < N_FOLDS:

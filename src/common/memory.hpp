@@ -13,4 +13,7 @@ namespace gravelox {
 /// need more than the machine's memory; the message tells the sizes.
 void check_grid_memory(std::string_view name, const std::array<int, 3>& sizes, double n_arrays);
 
+/// The same for that many doubles, which an argument asks for.
+void check_memory(std::string_view name, double n_doubles);
+
 }  // namespace gravelox

@@ -6,7 +6,8 @@
 namespace gravelox {
 
 /// While one lives, the solver's log keeps quiet, short of errors that end the process. Solves on
-/// several threads each have one; the log speaks again when the last has gone.
+/// several threads each have one; the log speaks again when the last has gone, and until then a
+/// solve without one is silent too.
 class quiet_solver_log {
  public:
   quiet_solver_log();

@@ -17,16 +17,21 @@
 namespace gravelox {
 
 /// Errors of inverse distance estimates of samples from their partitions, under the distance 1 -
-/// covariance and a power of it. Immutable; many threads may call it, each with its own buffer.
+/// covariance and a power of it. Immutable; many threads may call it, each with its own scratch.
 class idw_validation {
  public:
+  struct scratch {
+    lag_buffer lags;
+    std::vector<double> reciprocals;
+  };
+
   idw_validation(const std::vector<Covariance>& covs, double power_a);
 
   /// The error, estimate less value, of a sample for each of the partitions first to first +
   /// errors.size() - 1 of the list; NaN where no member weighs anything. Members at a distance of
-  /// up to 1e-10 do not count.
+  /// up to 1e-10 do not count. There is at least one partition.
   void operator()(const location_list& data_locs, std::span<const double> data, std::size_t sample,
-                  const partition_list& partitions, std::size_t first, lag_buffer& lags,
+                  const partition_list& partitions, std::size_t first, scratch& buffer,
                   std::span<double> errors) const;
 
  private:

@@ -7,6 +7,7 @@
 
 #include "common/checks.hpp"
 #include "common/integer.hpp"
+#include "common/memory.hpp"
 #include "common/random.hpp"
 #include "common/text.hpp"
 #include "estimation/cell_thinning.hpp"
@@ -15,14 +16,6 @@
 namespace gravelox {
 
 namespace {
-
-void check_fold(std::string_view name, const location_list& data_locs,
-                const std::vector<double>& data) {
-  check_not_empty("data_locs", data_locs.size());
-  check_same_size(name, data.size(), data_locs.size(), "location");
-  check_finite("data_locs", data_locs);
-  for (const double value : data) check_not_nan(name, value);
-}
 
 /// 0 to n - 1.
 std::vector<std::size_t> counted(std::size_t n) {
@@ -64,8 +57,10 @@ std::vector<std::size_t> thin_out(const location_list& isotropic_locs, double sc
 
 fold_list create_folds(const location_list& data_locs, const std::vector<double>& data_values,
                        double max_distance, int max_size, int n_centers, std::int64_t seed) {
-  check_fold("data_values", data_locs, data_values);
+  check_fold_samples("data_values", data_locs, data_values);
   check_at_least("n_centers", n_centers, 0);
+  constexpr double least_size = 10.0;
+  check_memory("n_centers", n_centers * least_size);
   const std::size_t n = data_locs.size();
   random_engine engine = create_engine(seed);
   const std::vector<std::size_t> ranks = rank_by_value(data_values);
@@ -80,6 +75,7 @@ fold_list create_folds(const location_list& data_locs, const std::vector<double>
     } else {
       neighborhood.find_neighbors(center, max_size, candidates);
     }
+    candidates.ids.resize(candidates.n_found);
     std::erase_if(candidates.ids, [&](std::size_t sample) {
       return !((data_locs[sample] - center).norm() <= max_distance);
     });
@@ -95,7 +91,7 @@ fold_list create_folds_using_multiscale(int n_partitions, int min_partition_size
                                         const Ellipsoid& search_ellipsoid,
                                         const location_list& data_locs,
                                         const std::vector<double>& data, std::int64_t seed) {
-  check_fold("data", data_locs, data);
+  check_fold_samples("data", data_locs, data);
   check_at_least("n_partitions", n_partitions, 0);
   check_scales("scales", scales);
   const location_list isotropic_locs = search_ellipsoid.forward(data_locs, 1);
@@ -111,6 +107,14 @@ fold_list create_folds_using_multiscale(int n_partitions, int min_partition_size
     }
   }
   return folds;
+}
+
+void check_fold_samples(std::string_view name, const location_list& data_locs,
+                        const std::vector<double>& data) {
+  check_not_empty("data_locs", data_locs.size());
+  check_same_size(name, data.size(), data_locs.size(), "location");
+  check_finite("data_locs", data_locs);
+  for (const double value : data) check_not_nan(name, value);
 }
 
 void check_folds(std::string_view name, const fold_list& folds) {

@@ -44,6 +44,11 @@ fold_list create_folds_using_multiscale(int n_partitions, int min_partition_size
                                         const location_list& data_locs,
                                         const std::vector<double>& data, std::int64_t seed);
 
+/// Throws std::invalid_argument without samples, for values, an argument of this name, of another
+/// number or NaN, and for data_locs that are not finite.
+void check_fold_samples(std::string_view name, const location_list& data_locs,
+                        const std::vector<double>& data);
+
 /// Throws std::invalid_argument, in an argument of this name, without folds, for a fold of
 /// different numbers of locations and values, and for locations that are not finite.
 void check_folds(std::string_view name, const fold_list& folds);

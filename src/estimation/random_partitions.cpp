@@ -20,7 +20,8 @@ std::span<const std::uint32_t> partition_list::operator[](std::size_t partition)
 }
 
 partition_sampler::partition_sampler(const location_list& data_locs, double max_distance,
-                                     int max_size, const partition_sizes& sizes)
+                                     int max_size, const partition_sizes& sizes,
+                                     std::string_view count_name)
     : data_locs_(data_locs),
       max_distance_(max_distance),
       max_size_(max_size),
@@ -28,7 +29,7 @@ partition_sampler::partition_sampler(const location_list& data_locs, double max_
       n_sizes_(static_cast<std::uint32_t>(sizes.max_partition_size) - least_size_ + 1),
       n_partitions_(sizes.n_partitions) {
   check_finite("data_locs", data_locs);
-  check_at_least("the number of partitions", sizes.n_partitions, 0);
+  check_at_least(count_name, sizes.n_partitions, 0);
   check_at_least("min_partition_size", sizes.min_partition_size, 0);
   if (n_sizes_ == 0) {
     refuse("max_partition_size", "at least min_partition_size, " + std::to_string(least_size_),
@@ -55,7 +56,8 @@ void partition_sampler::find_candidates(std::size_t sample, scratch& buffer) con
   } else {
     neighborhood_->find_neighbors(center, max_size_, buffer.neighbors);
   }
-  for (const std::size_t i : buffer.neighbors.ids) add_if_close(i);
+  const auto found = std::span(buffer.neighbors.ids).first(buffer.neighbors.n_found);
+  for (const std::size_t i : found) add_if_close(i);
 }
 
 void partition_sampler::draw(std::size_t sample, random_engine& engine, scratch& buffer,

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <string_view>
 #include <vector>
 
 #include "common/location.hpp"
@@ -52,9 +53,10 @@ class partition_sampler {
 
   /// Throws std::invalid_argument for locations that are not finite, a negative number of
   /// partitions, a negative min_partition_size, and a max_partition_size one below it, whose range
-  /// holds no size; a smaller one wraps around to sizes that take all candidates.
+  /// holds no size; a smaller one wraps around to sizes that take all candidates. The argument that
+  /// gives the number of partitions has the name `count_name`.
   partition_sampler(const location_list& data_locs, double max_distance, int max_size,
-                    const partition_sizes& sizes);
+                    const partition_sizes& sizes, std::string_view count_name);
 
   /// Appends the n_partitions partitions of a sample to the list; none where it has fewer than
   /// three candidates. For each, one word of the engine gives the size, then the candidates are

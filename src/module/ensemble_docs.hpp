@@ -262,7 +262,7 @@ constexpr const char* ensemble_simulation = R"(
 Blend one realisation of each local model into a field and make it honour samples, in parallel.
 
 The field is that of `unconditional_ensemble_simulation`. What the samples differ from it by is
-estimated by the same models, as `ensemble_estimation` does with simple kriging of mean 0 and without
+estimated by the same models, as by `ensemble_estimation` with simple kriging of mean 0 and no
 normalisation, and added. The interpreter lock is released.
 
 Parameters

@@ -16,8 +16,6 @@ namespace {
 using py::arg;
 using dhid_list = std::vector<int>;
 
-py::arg_v no_dhids() { return {"dhids", dhid_list(), "[]"}; }
-
 /// Seeds of scripts are 32-bit ints.
 std::vector<double> conditional_ensemble(
     const location_list& target_locs, const location_list& data_locs,

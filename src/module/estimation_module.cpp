@@ -16,8 +16,6 @@ namespace {
 using py::arg;
 using dhid_list = std::vector<int>;
 
-py::arg_v no_dhids() { return {"dhids", dhid_list(), "[]"}; }
-
 void bind_idw(py::module_& m) {
   using plain_form = Estimator (*)(double, double, int, double, int, const dhid_list&, int);
   using cov_form = Estimator (*)(const std::vector<Covariance>&, double, double, int, double, int,

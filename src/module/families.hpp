@@ -26,6 +26,9 @@ void register_spectra_module(py::module_& m);
 void register_rotation_module(py::module_& m);
 void register_mixture_module(py::module_& m);
 
+/// The argument `dhids` of estimators, by default no hole ids.
+inline py::arg_v no_dhids() { return {"dhids", std::vector<int>(), "[]"}; }
+
 /// Registers a class before the place of its name: a signature prints the Python name only of a
 /// class that is registered. It stays alive until place_class.
 template <typename T>

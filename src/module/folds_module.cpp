@@ -58,13 +58,12 @@ void register_folds_module(py::module_& m) {
   m.def("create_folds_using_multiscale", &multiscale_folds, arg("n_partitions"),
         arg("min_partition_size"), arg("max_partition_size"), arg("max_distance"), arg("scales"),
         arg("search_ellipsoid"), arg("data_locs"), arg("data"), arg("max_radius"), arg("max_size"),
-        arg("max_neis_octant"), arg("seed") = 1231255, arg("n_threads") = 0,
-        py::arg_v("dhids", dhid_list(), "[]"), arg("max_neis_by_dhid") = -1,
-        docs::create_folds_using_multiscale);
+        arg("max_neis_octant"), arg("seed") = 1231255, arg("n_threads") = 0, no_dhids(),
+        arg("max_neis_by_dhid") = -1, docs::create_folds_using_multiscale);
   m.def("multi_scale_cross_validation_error", &multi_scale_cross_validation_error, arg("data_locs"),
         arg("data"), arg("cov"), arg("range1"), arg("range2"), arg("range3"), arg("scales"),
         arg("max_size"), arg("max_radius"), arg("max_neis_octant"), arg("n_threads") = 0,
-        arg("seed") = 1231415, py::arg_v("dhids", dhid_list(), "[]"), arg("max_neis_by_dhid") = -1,
+        arg("seed") = 1231415, no_dhids(), arg("max_neis_by_dhid") = -1,
         docs::multi_scale_cross_validation_error);
 }
 

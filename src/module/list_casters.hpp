@@ -60,7 +60,7 @@ inline bool read_location(const PyArray_Proxy& array, gravelox::location& result
 }
 
 /// Calls load_element(element) for each element of a sequence that is not text, as long as it
-/// returns true; begin(n) is told first how many to make room for, and no more than is cheap: an
+/// returns true; begin(n) comes first and makes room for n, which is no more than is cheap: an
 /// object may claim any length.
 ///
 /// Elements are iterated over, not looked up: to a column of a table an index is a label. Lists are

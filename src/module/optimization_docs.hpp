@@ -210,7 +210,8 @@ Parameters
 ----------
 python_callback : callable
     Takes the model (a list of Covariance) and the number of threads that the rating may use, both
-    by position, and gives a float. A NaN or an infinity never wins.
+    by position, and gives a float. A NaN or an infinity never wins, and a first
+    model rated NaN stays the best.
 
 Returns
 -------
@@ -373,8 +374,7 @@ constexpr const char* optimize_ellipsoid = R"(
 Search for the ellipsoid of samples, with sizes as shares of their extent.
 
 It is `optimize_ellipsoid_using_idw` with lengths in units of the diagonal of the samples' box, and
-all samples within reach of each other. The interpreter lock is released. The diagonal takes time
-with the square of the number of samples.
+all samples within reach of each other. The interpreter lock is released.
 
 A search has two phases. In the first each thread rates its share of the candidates and keeps the
 best. In the second it turns that one by up to 15 degrees and multiplies its ranges by factors from

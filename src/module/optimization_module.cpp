@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "module/casters.hpp"
 
+#include <optional>
+#include <utility>
+
 #include "module/families.hpp"
 #include "module/optimization_docs.hpp"
 #include "module/python_callback.hpp"
@@ -8,6 +11,7 @@
 #include "optimization/ellipsoid_fit.hpp"
 #include "optimization/ellipsoid_search.hpp"
 #include "optimization/local_ellipsoids.hpp"
+#include "optimization/nested_model_search.hpp"
 #include "optimization/variogram_map_fit.hpp"
 #include "variography/local_covariances.hpp"
 

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-// Calls from library code into Python. Included after casters.hpp.
+// Calls from library code into Python.
+
+#include "module/casters.hpp"
 
 #include <memory>
 #include <mutex>

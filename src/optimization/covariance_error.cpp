@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "common/integer.hpp"
+#include "common/memory.hpp"
 #include "common/parallel_for.hpp"
 #include "common/random.hpp"
 #include "common/statistics.hpp"
@@ -19,7 +20,7 @@ namespace {
 struct alignas(64) error_mean {
   double sum = 0.0;
   double count = 0.0;
-  lag_buffer lags;
+  idw_validation::scratch buffer;
   std::vector<double> errors;
 
   void add(double error) {
@@ -49,7 +50,7 @@ struct idw_rating::drawn_fold {
         data(standardized(source.second, compute_moments(source.second))),
         n_partitions(to_size(parameters.sizes.n_partitions)) {
     const partition_sampler sampler(locations, parameters.max_distance, parameters.max_size,
-                                    parameters.sizes);
+                                    parameters.sizes, "n_partitions");
     random_engine master = create_engine(seed);
     random_engine engine(master());
     partition_sampler::scratch scratch;
@@ -63,7 +64,7 @@ struct idw_rating::drawn_fold {
   void add_errors(const idw_validation& validate, error_mean& mean) const {
     mean.errors.resize(n_partitions);
     for (std::size_t i = 0; i < samples.size(); ++i) {
-      validate(locations, data, samples[i], partitions, i * n_partitions, mean.lags, mean.errors);
+      validate(locations, data, samples[i], partitions, i * n_partitions, mean.buffer, mean.errors);
       for (const double error : mean.errors) mean.add(error);
     }
   }
@@ -79,6 +80,10 @@ idw_rating::idw_rating(const fold_list& folds, const idw_rating_parameters& para
                        std::int64_t seed, int n_threads)
     : power_a_(parameters.power_a), regularization_const_(parameters.regularization_const) {
   check_folds("folds", folds);
+  double n_samples = 0.0;
+  for (const fold& one : folds) n_samples += static_cast<double>(one.first.size());
+  check_memory("n_partitions", n_samples * parameters.sizes.n_partitions *
+                                   (1.0 + parameters.sizes.min_partition_size / 2.0));
   std::vector<std::optional<drawn_fold>> drawn(folds.size());
   parallel_for(folds.size(), n_threads, [&](std::size_t i, int /*thread_number*/) {
     drawn[i].emplace(folds[i], parameters, seed);

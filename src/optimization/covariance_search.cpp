@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <atomic>
+#include <cmath>
 #include <cstddef>
 #include <functional>
 
@@ -13,7 +14,6 @@
 #include "common/random.hpp"
 #include "common/report.hpp"
 #include "common/text.hpp"
-#include "variography/covariance_generator.hpp"
 
 namespace gravelox {
 
@@ -36,7 +36,7 @@ struct alignas(64) searcher {
   int last_upgrade = 0;
 
   bool keep_if_better(const model& candidate, double error) {
-    if (!(best_error > error)) return false;
+    if (!std::isfinite(error) || !(best_error > error)) return false;
     best_error = error;
     best = candidate;
     last_upgrade = iteration;
@@ -161,42 +161,6 @@ std::pair<model, double> optimize_covariance(const std::vector<model>& covs,
   search.scan(covs, n_iterations, n_iterations_without_upgrade);
   search.improve(to_size(n_iterations));
   return search.best();
-}
-
-idw_rating create_search_rating(const location_list& data_locs, const std::vector<double>& data,
-                                int max_nei_size, int n_centers, idw_rating_parameters parameters,
-                                int seed, int n_threads) {
-  check_same_size("data", data.size(), data_locs.size(), "location");
-  random_engine engine = create_engine(seed);
-  // The threads have a word each, although the search gives their engines a seed of its own.
-  engine.discard(n_thread_slots(n_threads));
-  const fold_list folds =
-      create_folds(data_locs, data, parameters.max_distance, max_nei_size, n_centers, engine());
-  parameters.max_size = to_int(data_locs.size() + 2);
-  return idw_rating(folds, parameters, engine(), n_threads);
-}
-
-std::pair<model, double> optimize_covariance_using_idw(
-    const location_list& data_locs, const std::vector<double>& data, const Ellipsoid& ellipsoid,
-    const Kernel& cov_kernel, int n_kernels, int n_covs, double delta_angle, double min_str_range,
-    double max_str_range, double min_sill, double max_sill, double power_a, double max_distance,
-    int max_nei_size, int min_partition_size, int max_partition_size, int n_partitions,
-    double regularization_const, int n_centers, int n_iterations, int n_iterations_without_upgrade,
-    int seed, int n_threads, bool debug) {
-  check_at_least("n_covs", n_covs, 1);
-  const idw_rating rating =
-      create_search_rating(data_locs, data, max_nei_size, n_centers,
-                           {max_distance,
-                            0,
-                            power_a,
-                            {min_partition_size, max_partition_size, n_partitions},
-                            regularization_const},
-                           seed, n_threads);
-  const std::vector<model> covs =
-      generate_covariances(ellipsoid, n_kernels, cov_kernel, n_covs, seed, delta_angle,
-                           min_str_range, max_str_range, min_sill, max_sill);
-  return optimize_covariance(covs, rating, n_iterations, n_iterations_without_upgrade, n_threads,
-                             debug);
 }
 
 }  // namespace gravelox

@@ -6,9 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "common/location.hpp"
 #include "optimization/covariance_error.hpp"
-#include "spatial/ellipsoid.hpp"
 #include "variography/covariance.hpp"
 
 namespace gravelox {
@@ -32,24 +30,5 @@ namespace gravelox {
 std::pair<std::vector<Covariance>, double> optimize_covariance(
     const std::vector<std::vector<Covariance>>& covs, const CovarianceErrorFunction& error_function,
     int n_iterations, int n_iterations_without_upgrade, int n_threads, bool debug);
-
-/// The rating of a search over samples, in n_centers folds of up to max_nei_size of them. The
-/// engine of the seed skips a word for each thread and then draws the seed of the folds and that of
-/// the rating. Within a fold all samples are candidates, whatever the max_size of the parameters.
-/// Throws std::invalid_argument for lists of different lengths and as create_folds and idw_rating
-/// do.
-idw_rating create_search_rating(const location_list& data_locs, const std::vector<double>& data,
-                                int max_nei_size, int n_centers, idw_rating_parameters parameters,
-                                int seed, int n_threads);
-
-/// optimize_covariance over n_covs random models around an ellipsoid (generate_covariances), rated
-/// by inverse distance cross-validation in n_centers folds of up to max_nei_size samples.
-std::pair<std::vector<Covariance>, double> optimize_covariance_using_idw(
-    const location_list& data_locs, const std::vector<double>& data, const Ellipsoid& ellipsoid,
-    const Kernel& cov_kernel, int n_kernels, int n_covs, double delta_angle, double min_str_range,
-    double max_str_range, double min_sill, double max_sill, double power_a, double max_distance,
-    int max_nei_size, int min_partition_size, int max_partition_size, int n_partitions,
-    double regularization_const, int n_centers, int n_iterations, int n_iterations_without_upgrade,
-    int seed, int n_threads, bool debug);
 
 }  // namespace gravelox

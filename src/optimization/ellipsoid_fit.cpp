@@ -111,14 +111,13 @@ Ellipsoid optimize_ellipsoid_using_kfold(const fold_list& folds, const std::stri
   check_positive("r1_max", r1_max);
   check_positive("r2_max", r2_max);
   check_positive("r3_max", r3_max);
+  check_at_least("min_partition_size", min_partition_size, 1);
   check_at_least("n_partitions", n_partitions, 0);
   check_at_least("n_iterations", n_iterations, 0);
-  if (n_partitions > 0) {
-    std::size_t n_residuals = folds.size();
-    for (const fold& one : folds) n_residuals += one.first.size();
-    check_grid_memory("n_partitions",
-                      {n_partitions, to_int(n_residuals), detail::n_structure_parameters}, 2.0);
-  }
+  double n_residuals = static_cast<double>(folds.size());
+  for (const fold& one : folds) n_residuals += static_cast<double>(one.first.size());
+  check_memory("n_partitions",
+               detail::memory_of_fit(n_residuals * n_partitions, detail::n_structure_parameters));
   // A largest size below the smallest wraps around, to sizes that no fold has.
   const std::uint32_t n_sizes = static_cast<std::uint32_t>(max_partition_size) -
                                 static_cast<std::uint32_t>(min_partition_size);

@@ -3,19 +3,15 @@
 
 #include "common/checks.hpp"
 #include "optimization/covariance_search.hpp"
+#include "optimization/search_rating.hpp"
 #include "spatial/bounding_box.hpp"
 #include "spatial/rotation_sampling.hpp"
 
 namespace gravelox {
 
-namespace {
-
-/// A model of one structure. Its label is spherical whatever the kernel, which is what counts.
 std::vector<Covariance> model_of(const Ellipsoid& ellipsoid, const Kernel& cov_kernel) {
   return {{covariance_type::spherical, 1.0, ellipsoid, cov_kernel}};
 }
-
-}  // namespace
 
 std::pair<Ellipsoid, double> optimize_ellipsoid_using_idw(
     const location_list& data_locs, const std::vector<double>& data, const Kernel& cov_kernel,

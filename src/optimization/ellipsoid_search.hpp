@@ -10,12 +10,13 @@
 #include "common/location.hpp"
 #include "estimation/folds.hpp"
 #include "spatial/ellipsoid.hpp"
+#include "variography/covariance.hpp"
 #include "variography/kernel.hpp"
 
 namespace gravelox {
 
-/// What a search over ellipsoids can be told. The defaults are those of a search that is told
-/// nothing; scripts that make a record start from other ones, for a quicker search.
+/// The settings of a search over ellipsoids. These defaults hold for a search without a record;
+/// scripts that make one start from others, for a quicker search.
 struct ellipsoid_optimization_parameters {
   double power_a = 3.0;
   int max_nei_size = 400;
@@ -33,6 +34,10 @@ struct ellipsoid_optimization_parameters {
   int n_threads = 0;
   bool debug = false;
 };
+
+/// A model of one structure of sill 1. Its label is spherical whatever the kernel, which is what
+/// counts.
+std::vector<Covariance> model_of(const Ellipsoid& ellipsoid, const Kernel& cov_kernel);
 
 /// The best ellipsoid found and its error: optimize_covariance over models of one structure of sill
 /// 1, one for each of generate_ellipsoids(min_range, max_range, n_rays, n_scales, seed, tol), tol

@@ -57,7 +57,7 @@ Ellipsoid blend(std::vector<weighted_axes>& parts) {
   // A total order also of weights that are not numbers.
   std::sort(parts.begin(), parts.end(), [](const weighted_axes& a, const weighted_axes& b) {
     const std::weak_ordering order = std::weak_order(b.weight, a.weight);
-    return order != 0 ? order < 0 : a.place < b.place;
+    return std::is_eq(order) ? a.place < b.place : std::is_lt(order);
   });
   Eigen::Matrix3d mean = parts.front().matrix;
   double weight_sum = parts.front().weight;

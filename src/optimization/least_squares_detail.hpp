@@ -64,6 +64,11 @@ struct Regularization {
   }
 };
 
+/// Doubles that a fit takes: its Jacobian here, in the solver, and in the decomposition.
+constexpr double memory_of_fit(double n_residuals, double n_parameters) {
+  return 3.0 * n_residuals * n_parameters;
+}
+
 /// How the solver runs.
 struct solver_settings {
   int n_iterations;

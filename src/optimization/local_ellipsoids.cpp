@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <numeric>
+#include <utility>
 
 #include "common/checks.hpp"
 #include "common/random.hpp"
@@ -27,8 +28,7 @@ struct sample_groups {
 sample_groups create_groups(const location_list& data_locs, const std::vector<double>& data,
                             int n_centers, double center_max_size, int center_size, int seed,
                             int n_threads, bool debug) {
-  check_same_size("data", data.size(), data_locs.size(), "location");
-  check_not_empty("data_locs", data_locs.size());
+  check_fold_samples("data", data_locs, data);
   check_at_least("n_centers", n_centers, 1);
   constexpr int n_rays = 300;
   random_engine engine = create_engine(seed);
@@ -58,6 +58,15 @@ std::string progress(std::size_t i, const fold_list& folds) {
   return text_of("optimized fold ", i + 1, " of ", folds.size());
 }
 
+/// A partition of a fold that is too small for it takes all but two samples of it.
+void check_local_fold(const fold& one, const ellipsoid_lbfgs_parameters& parameters) {
+  const std::size_t size = one.first.size();
+  if (size < 3 && std::cmp_greater(parameters.max_partition_size - 1, size)) {
+    refuse("center_size, local_center_size and center_max_size",
+           "local groups of at least 3 samples", text_of("one of ", size));
+  }
+}
+
 void divide_by_sum(std::vector<double>& errors) {
   const double sum = std::accumulate(errors.begin(), errors.end(), 0.0);
   for (double& error : errors) error /= sum;
@@ -85,7 +94,7 @@ LocalCovariances optimize_local_ellipsoids(const location_list& data_locs,
       print_to_output(progress(i, groups.folds));
       print_to_both(text_of("Ellipsoid: ", ellipsoid.to_string(), " error: ", error));
     }
-    models.covariances.push_back({{covariance_type::spherical, 1.0, ellipsoid, cov_kernel}});
+    models.covariances.push_back(model_of(ellipsoid, cov_kernel));
     models.errors.push_back(error);
   }
   return models;
@@ -96,6 +105,8 @@ LocalCovariances optimize_local_ellipsoids_using_lbfgs(
     int n_centers, int n_local_centers, double center_max_size, int center_size,
     int local_center_size, double max_local_range, const ellipsoid_lbfgs_parameters& parameters) {
   const covariance_type type = to_fitted_type("cov_type", cov_type);
+  check_at_least("n_local_centers", n_local_centers, 0);
+  check_positive("max_local_range", max_local_range);
   const auto& [regularization_const, cauchy_loss, min_partition_size, max_partition_size,
                n_partitions, n_iterations, seed, n_threads, debug] = parameters;
   const sample_groups groups = create_groups(data_locs, data, n_centers, center_max_size,
@@ -113,6 +124,7 @@ LocalCovariances optimize_local_ellipsoids_using_lbfgs(
     add_center(group, debug, models);
     const fold_list local_folds = create_folds(group.first, group.second, groups.max_radius,
                                                local_center_size, n_local_centers, seed);
+    for (const fold& one : local_folds) check_local_fold(one, parameters);
     const double prior =
         static_cast<double>(local_folds.size()) * n_partitions * regularization_const;
     double lbfgs_error = 0.0;

@@ -13,7 +13,7 @@
 
 namespace gravelox {
 
-/// What local gradient fits can be told; see optimize_ellipsoid_using_kfold.
+/// The settings of local gradient fits; see optimize_ellipsoid_using_kfold.
 struct ellipsoid_lbfgs_parameters {
   double regularization_const = 1.0;
   double cauchy_loss = 0.0;

@@ -3,10 +3,9 @@
 
 #include <cmath>
 #include <cstddef>
-#include <numeric>
+#include <string>
 
 #include "common/checks.hpp"
-#include "common/integer.hpp"
 #include "common/memory.hpp"
 #include "common/robust_power.hpp"
 #include "common/text.hpp"
@@ -17,6 +16,7 @@ namespace gravelox {
 namespace {
 
 constexpr std::size_t n_per_structure = detail::n_structure_parameters;
+constexpr double least_share = 0.0001;
 
 /// The misfit of a model's variogram at one lag. The parameters are those of the structures, with
 /// shares of the sill, and the nugget's share.
@@ -42,12 +42,25 @@ struct VarfitOptimization {
   }
 };
 
-void check_bounds(std::string_view name, double lower, double upper) {
-  check_finite(name, lower);
-  check_finite(name, upper);
-  if (lower > upper)
-    refuse(name, "a lower bound not above the upper one", text_of(lower, " and ", upper));
-}
+/// Where ranges may lie.
+struct range_bounds {
+  location least;
+  location greatest;
+
+  location middle() const { return (least + greatest) / 2.0; }
+
+  void check() const {
+    for (Eigen::Index axis = 0; axis < 3; ++axis) {
+      const std::string name = text_of("min_r", axis + 1, " and max_r", axis + 1);
+      check_finite(name, least[axis]);
+      check_finite(name, greatest[axis]);
+      if (least[axis] > greatest[axis]) {
+        refuse(name, "a lower bound not above the upper one",
+               text_of(least[axis], " and ", greatest[axis]));
+      }
+    }
+  }
+};
 
 /// Weights that fall with the length of a lag, 0 on the plateau, as shares of the sum before the
 /// plateau's went.
@@ -61,6 +74,42 @@ std::vector<double> weigh(const location_list& lags, const std::vector<double>& 
   }
   for (double& weight : weights) weight /= sum;
   return weights;
+}
+
+std::vector<double> start_parameters(int n_structures, const range_bounds& ranges) {
+  const location middle = ranges.middle();
+  std::vector<double> start;
+  for (int k = 0; k < n_structures; ++k) {
+    start.insert(start.end(), {1.0 / n_structures, middle[0], middle[1], middle[2], 0.0, 0.0, 0.0});
+  }
+  // The nugget's share starts below its bound; the solver moves it there.
+  start.push_back(0.0);
+  return start;
+}
+
+void set_bounds(const range_bounds& ranges, detail::least_squares_problem& problem) {
+  const std::size_t nugget = problem.parameters().size() - 1;
+  for (std::size_t first = 0; first < nugget; first += n_per_structure) {
+    problem.set_bounds(first, least_share, 1.0);
+    for (Eigen::Index axis = 0; axis < 3; ++axis) {
+      problem.set_bounds(first + 1 + static_cast<std::size_t>(axis), ranges.least[axis],
+                         ranges.greatest[axis]);
+    }
+  }
+  problem.set_bounds(nugget, least_share, 1.0);
+}
+
+/// The model of the parameters, its sills scaled to their total.
+std::vector<Covariance> read_model(covariance_type type, const std::vector<double>& p,
+                                   double total_sill) {
+  double share_sum = 0.0;
+  for (std::size_t first = 0; first < p.size(); first += n_per_structure) share_sum += p[first];
+  std::vector<Covariance> covs;
+  for (std::size_t first = 0; first + 1 < p.size(); first += n_per_structure) {
+    covs.emplace_back(type, total_sill * p[first] / share_sum, detail::fitted_ellipsoid(&p[first]));
+  }
+  covs.push_back(Covariance::nugget(total_sill * p.back() / share_sum));
+  return covs;
 }
 
 }  // namespace
@@ -77,25 +126,17 @@ std::vector<Covariance> extract_covariance_from_varmap(
   check_finite("lags", lags);
   check_at_least("n_structures", n_structures, 1);
   check_at_least("n_iterations", n_iterations, 0);
-  check_grid_memory("n_structures",
-                    {n_structures, detail::n_structure_parameters, to_int(lags.size() + 1)}, 1.0);
-  const location min_ranges(min_r1, min_r2, min_r3);
-  const location max_ranges(max_r1, max_r2, max_r3);
-  check_bounds("min_r1 and max_r1", min_r1, max_r1);
-  check_bounds("min_r2 and max_r2", min_r2, max_r2);
-  check_bounds("min_r3 and max_r3", min_r3, max_r3);
+  const range_bounds ranges{{min_r1, min_r2, min_r3}, {max_r1, max_r2, max_r3}};
+  ranges.check();
+  const detail::Regularization prior{max_r1, max_r2, max_r3, regularization_const / n_structures,
+                                     n_structures};
+  check_memory("n_structures",
+               detail::memory_of_fit(static_cast<double>(lags.size()) + 4.0 * n_structures,
+                                     7.0 * n_structures + 1.0));
 
   const std::vector<double> weights =
-      weigh(lags, variogram, weight, max_ranges.norm() / 3.0, b, threshold * total_sill);
-  const location middle = (min_ranges + max_ranges) / 2.0;
-  std::vector<double> start;
-  for (int k = 0; k < n_structures; ++k) {
-    start.insert(start.end(), {1.0 / n_structures, middle[0], middle[1], middle[2], 0.0, 0.0, 0.0});
-  }
-  // The nugget's share starts below its bound; the solver moves it there.
-  start.push_back(0.0);
-
-  detail::least_squares_problem problem(start);
+      weigh(lags, variogram, weight, ranges.greatest.norm() / 3.0, b, threshold * total_sill);
+  detail::least_squares_problem problem(start_parameters(n_structures, ranges));
   constexpr double least_weight = 1e-30;
   for (std::size_t i = 0; i < lags.size(); ++i) {
     if (!(weights[i] >= least_weight)) continue;
@@ -103,30 +144,10 @@ std::vector<Covariance> extract_covariance_from_varmap(
         VarfitOptimization{type, n_structures, lags[i], variogram[i] / total_sill, weights[i]}, 1,
         cauchy_loss);
   }
-  if (regularization_const > 0.0) {
-    const detail::Regularization prior{max_r1, max_r2, max_r3, regularization_const / n_structures,
-                                       n_structures};
-    problem.add(prior, prior.n_residuals(), 0.0);
-  }
-  for (std::size_t first = 0; first < start.size(); first += n_per_structure) {
-    problem.set_bounds(first, 0.0001, 1.0);
-    if (first + 1 == start.size()) break;
-    for (std::size_t axis = 0; axis < 3; ++axis) {
-      const Eigen::Index i = to_index(axis);
-      problem.set_bounds(first + 1 + axis, min_ranges[i], max_ranges[i]);
-    }
-  }
+  if (regularization_const > 0.0) problem.add(prior, prior.n_residuals(), 0.0);
+  set_bounds(ranges, problem);
   problem.solve({n_iterations, n_threads, debug});
-
-  const std::vector<double>& p = problem.parameters();
-  double share_sum = 0.0;
-  for (std::size_t first = 0; first < p.size(); first += n_per_structure) share_sum += p[first];
-  std::vector<Covariance> covs;
-  for (std::size_t first = 0; first + 1 < p.size(); first += n_per_structure) {
-    covs.emplace_back(type, total_sill * p[first] / share_sum, detail::fitted_ellipsoid(&p[first]));
-  }
-  covs.push_back(Covariance::nugget(total_sill * p.back() / share_sum));
-  return covs;
+  return read_model(type, problem.parameters(), total_sill);
 }
 
 }  // namespace gravelox

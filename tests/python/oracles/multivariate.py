@@ -36,7 +36,7 @@ def likelihoods(model, x):
 
 
 def em_step(model, x, w):
-    joint, even = likelihoods(model, x), np.full((len(model[0]), len(x)), 0.0)
+    joint, even = likelihoods(model, x), np.full((len(model[0]), len(x)), 1.0 / len(model[0]))
     shares = np.divide(joint, joint.sum(axis=0), out=even, where=joint.sum(axis=0) > 1e-100) * w
     return [*zip(*[component(x, s, w.sum()) for s in shares])]
 
@@ -60,7 +60,7 @@ def scores(model, sample):
 
 
 def restored(model, score, before):
-    p, cdf = np.clip(stats.norm.cdf(score), 1e-9, 0.999999999), distribution(model, before)
+    p, cdf = np.clip(stats.norm.cdf(score), 1e-10, 0.999999999), distribution(model, before)
     return optimize.brentq(lambda v: cdf(v) - p, -1e3, 1e3, xtol=1e-15, rtol=1e-15)
 
 
