@@ -60,7 +60,7 @@ def scores(model, sample):
 
 
 def restored(model, score, before):
-    p, cdf = np.clip(stats.norm.cdf(score), 1e-10, 0.999999999), distribution(model, before)
+    p, cdf = np.clip(stats.norm.cdf(score), 1e-9, 0.999999999), distribution(model, before)
     return optimize.brentq(lambda v: cdf(v) - p, -1e3, 1e3, xtol=1e-15, rtol=1e-15)
 
 
