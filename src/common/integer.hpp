@@ -17,5 +17,6 @@ inline Eigen::Index to_index(std::size_t size) { return static_cast<Eigen::Index
 
 /// An index that a check has found to be at least 0.
 inline std::size_t to_size(int index) { return static_cast<std::size_t>(index); }
+inline std::size_t to_size(Eigen::Index index) { return static_cast<std::size_t>(index); }
 
 }  // namespace gravelox

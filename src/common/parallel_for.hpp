@@ -21,6 +21,10 @@ inline std::size_t n_thread_slots(int n_threads) {
   return static_cast<std::size_t>(std::max(check_n_threads(n_threads), 1));
 }
 
+/// The threads that a parallel region has when nothing else is said; parallel_for uses no more of
+/// them than the hardware has.
+inline int default_n_threads() { return omp_get_max_threads(); }
+
 /// The number of the calling thread in the innermost parallel region, 0 outside of all.
 inline int current_thread_number() { return omp_get_thread_num(); }
 

@@ -19,6 +19,7 @@
 #include <pybind11/stl.h>
 
 #include "module/list_casters.hpp"
+#include "module/matrix_casters.hpp"
 
 namespace gravelox {
 

@@ -23,6 +23,8 @@ void register_optimization_module(py::module_& m);
 void register_ensembles(py::module_& m);
 
 void register_spectra_module(py::module_& m);
+void register_rotation_module(py::module_& m);
+void register_mixture_module(py::module_& m);
 
 /// The argument `dhids` of estimators, by default no hole ids.
 inline py::arg_v no_dhids() { return {"dhids", std::vector<int>(), "[]"}; }

@@ -22,4 +22,6 @@ PYBIND11_MODULE(gravelox, m) {
   gravelox::register_folds_module(m);
   gravelox::register_optimization_module(m);
   gravelox::register_spectra_module(m);
+  gravelox::register_rotation_module(m);
+  gravelox::register_mixture_module(m);
 }

@@ -7,7 +7,7 @@
 // over the overloads and, in the lenient one, be truncated into the first overload that takes an
 // int. Here a numpy scalar goes where a Python number of its value would go.
 
-#include <limits>
+#include <utility>
 
 namespace pybind11::detail {
 
@@ -60,16 +60,16 @@ class type_caster<double> {
 
 /// Whole numbers of 32 bits: anything with __index__, and so never a float; numpy bools as
 /// Python's.
-template <>
-class type_caster<int> {
+template <typename T>
+class whole_number_caster {
  public:
-  PYBIND11_TYPE_CASTER(int, const_name("int"));
+  PYBIND11_TYPE_CASTER(T, const_name("int"));
 
   bool load(handle source, bool /*convert*/) {
     if (!source) return false;
     // Before the index: a numpy bool has one, and warns when it is used.
     if (is_of_type(source, numpy_scalars().boolean)) {
-      value = PyObject_IsTrue(source.ptr());
+      value = static_cast<T>(PyObject_IsTrue(source.ptr()));
       return true;
     }
     if (PyIndex_Check(source.ptr()) == 0) return false;
@@ -80,17 +80,20 @@ class type_caster<int> {
       PyErr_Clear();
       return false;
     }
-    if (overflow != 0 || number < std::numeric_limits<int>::min() ||
-        number > std::numeric_limits<int>::max()) {
-      return false;
-    }
-    value = static_cast<int>(number);
+    if (overflow != 0 || !std::in_range<T>(number)) return false;
+    value = static_cast<T>(number);
     return true;
   }
 
-  static handle cast(int source, return_value_policy /*policy*/, handle /*parent*/) {
+  static handle cast(T source, return_value_policy /*policy*/, handle /*parent*/) {
     return PyLong_FromLong(source);
   }
 };
+
+template <>
+class type_caster<int> : public whole_number_caster<int> {};
+
+template <>
+class type_caster<unsigned> : public whole_number_caster<unsigned> {};
 
 }  // namespace pybind11::detail

@@ -16,6 +16,7 @@ FLOATS = st.sampled_from([0.0, 1.0, -1.0, 0.5, 3.0] * 4 + ODD)
 SMALL = st.sampled_from([-(2**31), -1, 0, 1, 2, 7])
 INTS = SMALL | st.just(2**31 - 1)
 POINTS = st.tuples(FLOATS, FLOATS, FLOATS)
+ROWS = st.lists(POINTS, max_size=5).map(lambda rows: np.reshape(rows, (-1, 3)))
 SIMPLE = {
     "float": FLOATS,
     "int": INTS,
@@ -23,6 +24,8 @@ SIMPLE = {
     "numpy.ndarray[numpy.float64[3, 1]]": POINTS,
     "numpy.ndarray[numpy.float64[3, 3]]": st.tuples(POINTS, POINTS, POINTS).map(np.array),
     "tuple[int, int, int]": st.tuples(INTS, INTS, SMALL),
+    "numpy.ndarray[numpy.float64[m, 1]]": st.lists(FLOATS, max_size=9).map(np.array),
+    "numpy.ndarray[numpy.float64[m, n]]": ROWS | ROWS.map(np.transpose),
 }
 FOUR = [(0, 0, 0), (1, 0, 0), (0, 2, 0), (0, 0, 0)]
 METRICS = [gravelox.Ellipsoid(np.full((3, 3), value)) for value in (0, math.nan)]
@@ -57,11 +60,13 @@ OBJECTS += [*FIELDS, gravelox.SimulatorGenerator.Pool(FIELDS), gravelox.RNG(1)]
 OBJECTS += [gravelox.SimulatorGenerator.TBSIM(FOUR, COVS[:1], 1, 3, 1, 2)]
 for made in (gravelox.gaussian_distribution(), gravelox.data_distribution([1, 2, 2])):
     OBJECTS += [made, gravelox.PDF(made), gravelox.CDF(made), gravelox.NScore(made, made)]
+MODEL, CHAIN = gravelox.GMMParams(1, [1], [[0, 1, 2]], [np.eye(3)]), gravelox.PPMT(np.tri(3, 4), 3)
+OBJECTS += [MODEL, CHAIN, gravelox.SCT(MODEL), gravelox.GMMFitter(2, 3)]
 
 
 def values_of(name, kind):
     """Arguments of a kind, as its signature writes it; what says how much to make stays small."""
-    ends = ("n_samples_by_dh", "size", "nx", "ny", "nz")
+    ends = ("n_samples_by_dh", "size", "nx", "ny", "nz", "max_iter")
     if kind == "int" and (name.startswith("n_") or name.endswith(ends) or name == "n"):
         return SMALL
     if kind in SIMPLE:

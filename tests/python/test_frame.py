@@ -37,7 +37,9 @@ NAMES = """
     optimize_covariance_using_idw optimize_local_ellipsoids optimize_local_ellipsoids_using_lbfgs
     extract_covariance_from_varmap ensemble_model ensemble_ellipsoid ensemble_local_ellipsoids
     ensemble_estimation ensemble_simulation
-    fft fft.SpectralData1D fft.project_to_line fft.project_back_to_source
+    fft create_random_rotation create_random_orthogonal_matrix PPMT compute_svd_decomposition
+    compute_optimum_rotation GMMParams GMMFitter SCT
+    fft.SpectralData1D fft.project_to_line fft.project_back_to_source
 """
 
 
@@ -84,6 +86,7 @@ def test_interpreter_lock(rng):
         lambda: gravelox.compute_exp_variogram(locs, data, bandwidth=0.2, **one),
         lambda: gravelox.smooth_variogram(vario, 100, 0, 99, 99, 1, 1, 0, **one),
         lambda: gravelox.kfold_cross_validation_using_ok(locs, data, covs, 9e9, **one),
+        lambda: gravelox.PPMT(targets.T, 4, **one),
     ):
         assert runs_beside(call)
     for call in (
@@ -91,6 +94,7 @@ def test_interpreter_lock(rng):
         lambda: gravelox.moving_window_estimation(targets, hood, locs, data, covs, limit, **one),
         lambda: sphere.forward(np.tile(targets, (20, 1)), **one),
         lambda: gravelox.compute_variogram(locs, locs, data, 40, 40, 40, 9, 9, 1, **one),
+        lambda: gravelox.GMMFitter(4, 30, 0.0).fit(targets),
     ):
         assert not runs_beside(call)
 

@@ -80,6 +80,10 @@ PARALLEL[simple.__name__] = partial(simple, *BLENDED, 9, -1, -1, 2, 1, 1, 0.1, 1
 PARALLEL[blend.__name__] = lambda **n: [e.matrix() for e in blend(TARGETS, *SEVEN, **n)]
 PARALLEL[fit.__name__] = lambda **n: fit(PARTS, "gaussian", 40, 30, 20, **n).matrix()
 PARALLEL[fit_map.__name__] = lambda **n: fit_map(*MAP, **n)[0].ellipsoid().matrix()
+PPMT, ROWS = gravelox.PPMT, DATA.lognormal(size=(3, 300))
+PARALLEL["PPMT.__init__"] = lambda n_threads: PPMT(ROWS, 9, 0.37, n_threads).forward(ROWS, 1)
+for name in ("forward", "backward"):
+    PARALLEL[f"PPMT.{name}"] = partial(getattr(PPMT(ROWS, 9), name), DATA.normal(size=(3, 300)))
 
 
 def numbers(result):
@@ -256,7 +260,34 @@ REFUSED += [
     ("azimuth: .*2.*1", gravelox.ensemble_model, (*[[1, 1]] * 3, [1], *[[1, 1]] * 3)),
     ("data_nei|data_locs", PARALLEL["ensemble_estimation"], (0, True, Hood(TARGETS))),
 ]
+Params, Fitter, SCT, HOLED = gravelox.GMMParams, gravelox.GMMFitter, gravelox.SCT, np.ones((4, 2))
+HOLED[1, 0], ONE, WIDE = math.nan, ([1], [[0, 0]], [np.eye(2)]), np.ones((2, 4))
+SCORES, CHAIN, FAR = SCT(Params(1, *ONE)), PPMT(ROWS, 1), [[0, 1, 50], [2, 50, 0]]
+MIXTURES = [("weights", [math.nan], *ONE[1:]), (r"covariances.*nan", *ONE[:2], [HOLED[:2]])]
+MIXTURES += [(r"covariances\[1\]: .* 2 x 2 .*3 x 3", [0.5] * 2, np.eye(2), [np.eye(2), np.eye(3)])]
+MIXTURES += [(r"GMM parameters have inconsistent dimensions\.$", *ONE[:2], ONE[2] * 2)]
+REFUSED += [(m, lambda *mix: SCT(Params(len(mix[0]), *mix)), rest) for m, *rest in MIXTURES]
+REFUSED += [
+    (r"Number of components must be positive\.$", Fitter, (0,)),
+    (r"n_samples must be >= n_components\.$", Fitter(3).fit, (WIDE, [1])),
+    (r"X and .* must have the same number of samples\.$", Fitter(2).fit, (WIDE, [1] * 3)),
+    (r"x: .*nan at \[1, 0\]", Fitter(2).fit, (HOLED,)),
+    ("x: .*at least 1 row.* 4 x 0", Fitter(2).fit, (HOLED[:, :0],)),
+    (r"weights: .*nan at \[1", Fitter(1).fit, (WIDE, HOLED[:2, 0])),
+    (r"Input data Z has incorrect number of features\.$", SCORES.forward, (HOLED,)),
+    (r"Input data SCT_Z has incorrect number of features\.$", SCORES.backward, (HOLED,)),
+    (r"x: .*nan at \[0, 1\]", SCORES.forward, (HOLED.T,)),
+    ("Data must have at least 2 elements$", PPMT, (HOLED[:, :1], 1)),
+    ("data: .*points.* coordinates.*4 x 2", PPMT, (WIDE.T, 1)),
+    (r"data: .*nan at \[0, 1\]", PPMT, (HOLED.T, 1)),
+    ("data: .*vary.* row 1", PPMT, (ROWS * [[1], [0], [1]], 1)),
+    ("data: .*3 .*2", CHAIN.forward, (WIDE,)),
+    ("u: .*3 .*4", CHAIN.backward, (WIDE[0],)),
+    ("A: .*rows.*columns.*2 x 4", gravelox.compute_optimum_rotation, (WIDE,)),
+]
+REFUSED += [("N: ", gravelox.create_random_rotation, (n, 1)) for n in (0, -1, 2**31 - 1)]
 FAILURES = [
+    (OverflowError, r"x: .* \[1, 1\] has a probability of 1 ", SCORES.forward, (FAR,)),
     (RuntimeError, "invalid index$", BLOCKS, NULL),
     (RuntimeError, r"No lags\.\.\.$", gravelox.smooth_variogram, (Vario(*[[]] * 5), *[9] * 6, 0)),
     (RuntimeError, "No lags found$", gravelox.smooth_variogram, (VARIO, 9, 0, 1e-9, 1, 1, 1, 0)),

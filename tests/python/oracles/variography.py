@@ -13,11 +13,15 @@ class Engine(spatial.Draws):
     def word(self):
         return int(self._bits.random_raw())
 
+    def below(self, n):
+        while (product := self.word() * n) % 2**32 < 2**32 % n:
+            pass
+        return product >> 32
+
     def shuffle(self, values):
         for i in range(1, len(values)):
-            while (product := self.word() * (i + 1)) % 2**32 < 2**32 % (i + 1):
-                pass
-            values[i], values[product >> 32] = values[product >> 32], values[i]
+            j = self.below(i + 1)
+            values[i], values[j] = values[j], values[i]
 
 
 def rows_of(vario):
