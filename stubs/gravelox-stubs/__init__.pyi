@@ -3,7 +3,7 @@ import numpy
 import numpy.typing
 import typing
 from . import fft
-__all__: list[str] = ['BlockModel', 'BoundingBox', 'CDF', 'CartesianGrid', 'Covariance', 'Direction', 'Distribution', 'DynamicNeighborhood', 'Ellipsoid', 'EllipsoidInfo', 'Estimator', 'ExperimentalVariogram', 'FIM', 'IDW', 'Kernel', 'LocalCovariances', 'NScore', 'Neighborhood', 'OrdinaryKriging', 'PDF', 'RNG', 'Rotation', 'SimpleKriging', 'SimulatorFactory', 'SimulatorGenerator', 'SpatialFunction', 'TBSIM', 'cauchy_distribution', 'check_n_threads', 'chi_squared_distribution', 'compute_exp_variogram', 'compute_ordinary_kriging', 'compute_simple_kriging', 'compute_variogram', 'covariance_computer', 'create_random_drillholes', 'data_distribution', 'exponential_distribution', 'extract_ellipsoid_info', 'extreme_points', 'extreme_value_distribution', 'fft', 'fisher_f_distribution', 'gamma_distribution', 'gaussian_distribution', 'generate_covariances', 'generate_ellipsoids', 'generate_random_semisphere', 'generate_random_sphere', 'generate_rotations', 'lognormal_distribution', 'moving_window_estimation', 'optimize_rotation', 'orthogonolize_axes', 'set_fft_n_threads', 'simulate', 'simulator', 'smooth_variogram', 'sort_matrix3d', 'student_t_distribution', 'unconditional_ensemble_simulation', 'uniform_distribution', 'variogram_computer', 'weibull_distribution']
+__all__: list[str] = ['BlockModel', 'BoundingBox', 'CDF', 'CartesianGrid', 'Covariance', 'CovarianceErrorFunction', 'Direction', 'Distribution', 'DynamicNeighborhood', 'Ellipsoid', 'EllipsoidInfo', 'EllipsoidLBFGSParameters', 'EllipsoidOptimizationParameters', 'EnsembleEstimation', 'Estimator', 'ExperimentalVariogram', 'FIM', 'GMMFitter', 'GMMParams', 'IDW', 'Kernel', 'LocalCovariances', 'NScore', 'Neighborhood', 'OrdinaryKriging', 'PDF', 'PPMT', 'RNG', 'Rotation', 'SCT', 'SimpleKriging', 'SimulatorFactory', 'SimulatorGenerator', 'SpatialFunction', 'TBSIM', 'cauchy_distribution', 'check_n_threads', 'chi_squared_distribution', 'compute_covariance_error_idw', 'compute_ellipsoid_error_idw', 'compute_exp_variogram', 'compute_optimum_rotation', 'compute_ordinary_kriging', 'compute_simple_ensemble_estimation', 'compute_simple_kriging', 'compute_svd_decomposition', 'compute_variogram', 'covariance_computer', 'create_folds', 'create_folds_using_multiscale', 'create_random_drillholes', 'create_random_orthogonal_matrix', 'create_random_rotation', 'data_distribution', 'ensemble_ellipsoid', 'ensemble_estimation', 'ensemble_local_ellipsoids', 'ensemble_model', 'ensemble_simulation', 'exponential_distribution', 'extract_covariance_from_varmap', 'extract_ellipsoid_info', 'extreme_points', 'extreme_value_distribution', 'fft', 'fisher_f_distribution', 'gamma_distribution', 'gaussian_distribution', 'generate_covariances', 'generate_ellipsoids', 'generate_random_semisphere', 'generate_random_sphere', 'generate_rotations', 'kfold_cross_validation_using_idw', 'kfold_cross_validation_using_ok', 'kfold_cross_validation_using_sk', 'lognormal_distribution', 'moving_window_estimation', 'multi_scale_cross_validation_error', 'optimize_covariance', 'optimize_covariance_using_idw', 'optimize_ellipsoid', 'optimize_ellipsoid_using_idw', 'optimize_ellipsoid_using_kfold', 'optimize_local_ellipsoids', 'optimize_local_ellipsoids_using_lbfgs', 'optimize_rotation', 'orthogonolize_axes', 'set_fft_n_threads', 'simulate', 'simulator', 'smooth_variogram', 'sort_matrix3d', 'student_t_distribution', 'unconditional_ensemble_simulation', 'uniform_distribution', 'variogram_computer', 'weibull_distribution']
 class BlockModel:
     """
 
@@ -670,6 +670,92 @@ class Covariance:
         str
             "spherical", "gaussian", "exponential", "nugget" or "idw".
         """
+class CovarianceErrorFunction:
+    """
+
+    A rating of covariance models, the lower the better: one by cross-validation, or one of your own.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> def misfit(model, n_threads):
+    ...     return abs(sum(structure.sill() for structure in model) - 1)
+    >>> rating = gravelox.CovarianceErrorFunction.Custom(misfit)
+    >>> sphere = gravelox.Ellipsoid(50, 50, 50, 90, 0, 0)
+    >>> rating([gravelox.Covariance.spherical(0.75, sphere)])
+    0.25
+    """
+    @staticmethod
+    def Custom(python_callback: typing.Any) -> CovarianceErrorFunction:
+        """
+        A rating by a Python function.
+
+        A search calls it from its threads, in any order but one call at a time, so more threads do not make
+        it faster. An exception in it ends the search and is raised by it.
+
+        Parameters
+        ----------
+        python_callback : callable
+            Takes the model (a list of Covariance) and the number of threads that the rating may use, both
+            by position, and gives a float. A NaN or an infinity never wins, and a first
+            model rated NaN stays the best.
+
+        Returns
+        -------
+        CovarianceErrorFunction
+            To be called with models. What the function returns and is not a number raises TypeError.
+        """
+    @staticmethod
+    def IDW(folds: list[tuple[list[numpy.ndarray[numpy.float64[3, 1]]], list[float]]], max_distance: float, power_a: float = 3.0, min_partition_size: int = 15, max_partition_size: int = 25, n_partitions: int = 5, regularization_const: float = 0.001, seed: int = 21314) -> CovarianceErrorFunction:
+        """
+        The rating of `compute_covariance_error_idw`, over given groups of samples.
+
+        Parameters
+        ----------
+        folds : list of tuple of (array_like of shape (n, 3), sequence of float of length n)
+            Groups of samples, locations in length units and values in data units, as `create_folds` makes
+            them.
+        max_distance : float
+            Samples count for each other where they are strictly nearer than this, in length units.
+        power_a : float
+            Exponent of the distance 1 - covariance.
+        min_partition_size, max_partition_size : int
+            Bounds of the size of a partition, both inclusive.
+        n_partitions : int
+            Partitions of each sample: how often it is estimated.
+        regularization_const : float
+            Weight of the penalty on ranges; 0 for none.
+        seed : int
+            Seed of the partitions: all models are rated on the same ones.
+
+        Returns
+        -------
+        CovarianceErrorFunction
+            To be called with models.
+
+        Raises
+        ------
+        ValueError
+            If `folds` are empty, the locations and values of one differ in length, a coordinate is not
+            finite, a count is negative, or `max_partition_size` is `min_partition_size` less 1.
+        """
+    def __call__(self, covariance: list[Covariance], n_threads: int = 0) -> float:
+        """
+        Rate a model.
+
+        Parameters
+        ----------
+        covariance : list of Covariance
+            The model.
+        n_threads : int
+            Threads; 0 means all. A rating by cross-validation grows with it, see
+            `compute_covariance_error_idw`; a Python function gets the number as it is.
+
+        Returns
+        -------
+        float
+            The error; the lower the better.
+        """
 class Distribution:
     """
 
@@ -1304,10 +1390,114 @@ class EllipsoidInfo:
         float
             An angle in [-180, 180]; 0 where the longest axis is vertical.
         """
+class EllipsoidLBFGSParameters:
+    """
+
+    Settings of the gradient fits of `optimize_local_ellipsoids_using_lbfgs`.
+
+    The solver is a trust-region one, whatever the name. The fields cannot be read back.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> parameters = gravelox.EllipsoidLBFGSParameters(regularization_const=0.1, n_threads=1)
+    """
+    def __init__(self, regularization_const: float = 1.0, cauchy_loss: float = 0.0, min_partition_size: int = 15, max_partition_size: int = 30, n_partitions: int = 7, n_iterations: int = 1000, seed: int = 123151, n_threads: int = 0, debug: bool = False) -> None:
+        """
+        Make the settings of local gradient fits.
+
+        Parameters
+        ----------
+        regularization_const : float
+            Weight of the prior on ranges for each partition, and of the penalty on ranges in the rating of
+            the results.
+        cauchy_loss : float
+            Scale of a Cauchy loss on errors, which bounds the pull of outliers; below 1e-10 there is none.
+        min_partition_size : int
+            Least number of samples that estimate the others.
+        max_partition_size : int
+            In a fit the bound that their number stays below, in the rating of the fits the greatest size of
+            a partition. Not equal to `min_partition_size`.
+        n_partitions : int
+            Partitions of each group.
+        n_iterations : int
+            Most iterations of the solver.
+        seed : int
+            Seed of groups and partitions.
+        n_threads : int
+            Threads; 0 means all. Ellipsoids do not depend on it, their errors do.
+        debug : bool
+            Whether to print how fits go on, on the standard output and the standard error of the process
+            (not on `sys.stdout`).
+        """
+class EllipsoidOptimizationParameters:
+    """
+
+    Settings of a search for ellipsoids, for `optimize_ellipsoid` and `optimize_local_ellipsoids`.
+
+    The fields cannot be read back. Those functions' own default is another one: `n_rays` 600,
+    `n_scales` 5, `n_iterations` 2000, `n_iterations_without_upgrade` 100 and `regularization_const`
+    0.001, where a record made here without arguments has 400, 8, 150, 50 and 0.025: a shorter search,
+    held to shorter ranges. All other fields are the same.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> quick = gravelox.EllipsoidOptimizationParameters(n_rays=100, tol=0.01, n_threads=1)
+    >>> thorough = gravelox.EllipsoidOptimizationParameters(
+    ...     n_rays=600, n_scales=5, n_iterations=2000, n_iterations_without_upgrade=100,
+    ...     regularization_const=0.001)  # what a call without a record takes
+    """
+    def __init__(self, power_a: float = 3.0, max_nei_size: int = 400, min_partition_size: int = 15, max_partitions_size: int = 25, n_partitions: int = 4, n_centers: int = 10, n_rays: int = 400, n_scales: int = 8, n_iterations: int = 150, n_iterations_without_upgrade: int = 50, tol: float = 0.002, regularization_const: float = 0.025, seed: int = 1231, n_threads: int = 0, debug: bool = False) -> None:
+        """
+        Make the settings of a search.
+
+        Parameters
+        ----------
+        power_a : float
+            Exponent of the distance 1 - covariance.
+        max_nei_size : int
+            Most samples in a group; below 1 there is no limit.
+        min_partition_size : int
+            Least size of a partition.
+        max_partitions_size : int
+            Greatest size of a partition. The name has one more "s" than everywhere else.
+        n_partitions : int
+            Partitions of each sample: how often it is estimated.
+        n_centers : int
+            Groups of samples that a candidate is rated on.
+        n_rays : int
+            Half the number of directions of the candidates' axes. The number of candidates grows with its
+            square.
+        n_scales : int
+            Half the number of ellipsoids for each frame of axes.
+        n_iterations : int
+            Most candidates that a thread rates in the first phase; of the second phase the tries of all
+            threads together, plus one for each thread.
+        n_iterations_without_upgrade : int
+            A thread that has rated this many candidates without a better one leaves the first phase.
+        tol : float
+            Greatest cosine of two directions that count as at right angles: a tolerance of the candidates'
+            axes, and not of convergence. The number of candidates grows with it.
+        regularization_const : float
+            Weight of the penalty on ranges; 0 for none.
+        seed : int
+            Seed of candidates, groups and partitions. The tries of the second phase do not depend on it.
+        n_threads : int
+            Threads; 0 means all. The result repeats for an equal number only.
+        debug : bool
+            Whether to print each improvement, on the standard output and the standard error of the process
+            (not on `sys.stdout`).
+
+        Notes
+        -----
+        With the values here there are some 10,000 candidates, most of which are never rated; with those of
+        a call without a record some 14,000.
+        """
 class Estimator:
     """
 
-    An estimator with its parameters, made by `IDW`, `SimpleKriging` or `OrdinaryKriging`.
+    An estimator with its parameters, made by `IDW`, one of the krigings or `EnsembleEstimation`.
 
     It keeps no state between calls and can be used on any data.
 
@@ -1514,6 +1704,154 @@ class ExperimentalVariogram:
         -------
         list of float
             One for each lag, in data units squared.
+        """
+class GMMFitter:
+    """
+
+    The settings of a fit of a Gaussian mixture by expectation-maximisation.
+
+    `fit` takes samples in rows and features in columns, the other way round than `SCT` and `PPMT`. Each
+    fit starts from the seed.
+
+    References
+    ----------
+    Dempster, A. P., Laird, N. M. and Rubin, D. B. (1977). Maximum likelihood from incomplete data via
+    the EM algorithm. Journal of the Royal Statistical Society B 39, 1-38.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> import numpy as np
+    >>> rng = np.random.RandomState(7)
+    >>> samples = np.vstack([rng.normal(0, 1, (300, 2)), rng.normal(8, 1, (700, 2))])
+    >>> samples.shape  # 1,000 samples in rows
+    (1000, 2)
+    >>> mixture = gravelox.GMMFitter(2).fit(samples)
+    >>> sorted(round(float(weight), 2) for weight in mixture.weights)
+    [0.3, 0.7]
+    """
+    def __init__(self, n_components: int, max_iter: int = 100, tol: float = 0.0001, reg_covar: float = 1e-06, seed: int = 42) -> None:
+        """
+        Set up a fit; `fit` takes samples in rows.
+
+        Parameters
+        ----------
+        n_components : int
+            Components, at least 1.
+        max_iter : int
+            Steps at most; below 1 the fit is the random start.
+        tol : float
+            Change of the log-likelihood below which steps end. It is absolute, for all samples together.
+        reg_covar : float
+            Added to all variances in each step, in data units squared.
+        seed : int
+            Seed of the start, 0 to 4294967295.
+
+        Raises
+        ------
+        ValueError
+            "Number of components must be positive."
+        """
+    @typing.overload
+    def fit(self, x: numpy.typing.ArrayLike) -> GMMParams:
+        """
+        Fit a mixture to samples in rows, all of the same weight.
+
+        It starts from random labels, and steps until the total log-likelihood changes by less than `tol`. A
+        line on the standard output of the process, not of `sys.stdout`, tells the end: "EM Converged at
+        iteration 12" or "Warning: EM algorithm did not converge within 100 iterations." (not an error).
+        Densities are plain numbers: a sample too far from all components belongs to all alike.
+
+        Parameters
+        ----------
+        x : array_like of shape (n, d)
+            Samples in rows, features in columns, in data units: the transpose of what `SCT` takes.
+
+        Returns
+        -------
+        GMMParams
+            The mixture. For another number of threads (OMP_NUM_THREADS) its last bits may differ.
+
+        Raises
+        ------
+        ValueError
+            "n_samples must be >= n_components.", or if `x` is empty or a number is not finite.
+        """
+    @typing.overload
+    def fit(self, x: numpy.typing.ArrayLike, weights: numpy.typing.ArrayLike) -> GMMParams:
+        """
+        Fit a mixture to samples in rows, with weights.
+
+        As the other overload. The log-likelihood of the stopping rule is unweighted and absolute: weights
+        enter the mixture alone.
+
+        Parameters
+        ----------
+        x : array_like of shape (n, d)
+            Samples in rows, features in columns, in data units: the transpose of what `SCT` takes.
+        weights : array_like of shape (n,)
+            One for each row, by declustering for instance, of any sum, as they are. Only zeros give a
+            mixture whose weights are NaN.
+
+        Returns
+        -------
+        GMMParams
+            The mixture. For another number of threads (OMP_NUM_THREADS) its last bits may differ.
+
+        Raises
+        ------
+        ValueError
+            "n_samples must be >= n_components.", "X and sample_weights must have the same number of
+            samples.", or if `x` is empty or a number is not finite.
+        """
+class GMMParams:
+    """
+
+    A mixture of K Gaussians in d features, such as `GMMFitter.fit` returns and `SCT` takes.
+
+    Components are in rows of `means`. `GMMFitter.fit` takes samples in rows, `SCT` in columns.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> mixture = gravelox.GMMParams(2, [0.4, 0.6], [[0, 5], [3, 9]], [[[1, 0], [0, 1]]] * 2)
+    >>> mixture.n_components, mixture.means.shape
+    (2, (2, 2))
+    """
+    def __init__(self, n_components: int, weights: numpy.typing.ArrayLike, means: numpy.typing.ArrayLike, covariances: numpy.typing.ArrayLike) -> None:
+        """
+        Make a mixture; nothing is checked before `SCT` takes it.
+
+        Parameters
+        ----------
+        n_components : int
+            The number of components K.
+        weights : array_like of shape (K,)
+            Proportions, which add up to 1.
+        means : array_like of shape (K, d)
+            Components in rows and features in columns, in data units.
+        covariances : list of array_like of shape (d, d)
+            One for each component, in data units squared, with features as in `means`.
+        """
+    @property
+    def covariances(self) -> list[numpy.ndarray[numpy.float64[m, n]]]:
+        """
+        Covariances, K of shape (d, d), features as in `means`, in data units squared; copies.
+        """
+    @property
+    def means(self) -> numpy.ndarray[numpy.float64[m, n]]:
+        """
+        Means, shape (K, d): components in rows, features in columns, in data units; a copy.
+        """
+    @property
+    def n_components(self) -> int:
+        """
+        The number of components K.
+        """
+    @property
+    def weights(self) -> numpy.ndarray[numpy.float64[m, 1]]:
+        """
+        Proportions of the components, shape (K,); a copy.
         """
 class Kernel:
     """
@@ -1996,6 +2334,153 @@ class PDF:
             If a value is outside the support of a lognormal, F, chi-squared, Weibull, exponential or
             gamma distribution.
         """
+class PPMT:
+    """
+
+    The projection pursuit multivariate transform: data to independent normal scores, and back.
+
+    Coordinates (features) are in rows and points (samples) in columns. Each step standardises the
+    coordinates, turns them into their principal axes or at random, and maps the one coordinate whose
+    quantiles are farthest from normal onto the Gaussian. There is no stopping rule: the chain
+    has `n_steps` steps. It does not change, and threads may share it.
+
+    A step's map is an `NScore` of the data: values up to the least of its coordinate all have the score
+    -8.22, and values above the greatest reach 8.21 at most. A point outside the data may therefore come
+    back on their edge. Steps stretch the gaps between points on the way back: rounding grows with their
+    number, and hundreds of steps do not give data back. A few dozen did for 2,000 points.
+
+    References
+    ----------
+    Barnett, R. M., Manchuk, J. G. and Deutsch, C. V. (2014). Projection pursuit multivariate transform.
+    Mathematical Geosciences 46, 337-359.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> import numpy as np
+    >>> rng = np.random.RandomState(7)
+    >>> x = rng.normal(size=1000)
+    >>> data = np.array([x, x**2 + 0.3 * rng.normal(size=1000)])  # 2 coordinates, 1,000 points
+    >>> chain = gravelox.PPMT(data, 30)
+    >>> scores = chain.forward(data)
+    >>> scores.shape, bool(abs(np.corrcoef(scores)[0, 1]) < 0.1)
+    ((2, 1000), True)
+    >>> np.allclose(chain.backward(scores), data)
+    True
+    >>> chain.forward(data[:, 0]).shape, chain.forward(data[:, :1]).shape  # a point, a table
+    ((2,), (2, 1))
+    """
+    def __init__(self, data: numpy.typing.ArrayLike, n_steps: int, prob_random_rotation: float = 0.37, n_threads: int = 0, seed: int = 123154) -> None:
+        """
+        Fit the chain to data.
+
+        Parameters
+        ----------
+        data : array_like of shape (d, n)
+            Coordinates in rows, points in columns, each row in a unit of its own; at least 2 points, and at
+            least as many as coordinates.
+        n_steps : int
+            Steps, all of which are taken. Below 1 the chain is empty and gives everything back as it came.
+        prob_random_rotation : float
+            Probability of a random rotation in place of principal axes: 0 or less for none, 1 for all. The
+            first step never takes one.
+        n_threads : int
+            Threads; 0 means all. The chain does not depend on it.
+        seed : int
+            Seed of the steps; a negative one counts modulo 2^32.
+
+        Raises
+        ------
+        ValueError
+            "Data must have at least 2 elements" for fewer than 2 points; for fewer points than coordinates,
+            an empty `data`, numbers that are not finite, or a coordinate that does not vary.
+        """
+    @typing.overload
+    def backward(self, data: numpy.typing.ArrayLike, n_threads: int = 0) -> numpy.ndarray[numpy.float64[m, n]]:
+        """
+        Data of a table of scores, in parallel.
+
+        Parameters
+        ----------
+        data : numpy.ndarray of shape (d, n)
+            Scores, coordinates in rows, points in columns. Two dimensions are a table, (d, 1) too; one
+            dimension is a point.
+        n_threads : int
+            Threads; 0 means all. The result does not depend on it.
+
+        Returns
+        -------
+        numpy.ndarray of shape (d, n)
+            Values, in data units. A point has the same ones alone.
+
+        Raises
+        ------
+        ValueError
+            If `data` has another number of coordinates than the chain, or a number is not finite.
+        """
+    @typing.overload
+    def backward(self, u: numpy.typing.ArrayLike) -> numpy.ndarray[numpy.float64[m, 1]]:
+        """
+        The same for one point, with the numbers that it has as a column of a table.
+
+        Parameters
+        ----------
+        u : numpy.ndarray of shape (d,)
+            Its coordinates or its scores. One dimension is a point; two are a table, coordinates in rows.
+
+        Returns
+        -------
+        numpy.ndarray of shape (d,)
+            Its scores by `forward`, its values in data units by `backward`.
+
+        Raises
+        ------
+        ValueError
+            If `u` has another length than the chain's number of coordinates, or a number is not finite.
+        """
+    @typing.overload
+    def forward(self, data: numpy.typing.ArrayLike, n_threads: int = 0) -> numpy.ndarray[numpy.float64[m, n]]:
+        """
+        Scores of a table of points, in parallel.
+
+        Parameters
+        ----------
+        data : numpy.ndarray of shape (d, n)
+            Coordinates in rows, points in columns, in data units. Two dimensions are a table, (d, 1) too;
+            one dimension is a point.
+        n_threads : int
+            Threads; 0 means all. The result does not depend on it.
+
+        Returns
+        -------
+        numpy.ndarray of shape (d, n)
+            Scores, without unit, in the places of their values. A point has the same ones alone.
+
+        Raises
+        ------
+        ValueError
+            If `data` has another number of coordinates than the chain, or a number is not finite.
+        """
+    @typing.overload
+    def forward(self, u: numpy.typing.ArrayLike) -> numpy.ndarray[numpy.float64[m, 1]]:
+        """
+        The same for one point, with the numbers that it has as a column of a table.
+
+        Parameters
+        ----------
+        u : numpy.ndarray of shape (d,)
+            Its coordinates or its scores. One dimension is a point; two are a table, coordinates in rows.
+
+        Returns
+        -------
+        numpy.ndarray of shape (d,)
+            Its scores by `forward`, its values in data units by `backward`.
+
+        Raises
+        ------
+        ValueError
+            If `u` has another length than the chain's number of coordinates, or a number is not finite.
+        """
 class RNG:
     """
 
@@ -2024,6 +2509,103 @@ class RNG:
         ----------
         seed : int
             The seed; a negative one counts modulo 2^32.
+        """
+class SCT:
+    """
+
+    The stepwise conditional transform: data to independent normal scores by a mixture, and back.
+
+    Features are in rows and samples in columns, the other way round than in `GMMFitter.fit`. Feature 0
+    goes through its own distribution in the mixture, each later one through that given all before it.
+    A component drops out of a conditional distribution where its variance is below 1e-10, the
+    covariance before it singular, or its weight at most 1e-100; without any the value is NaN.
+
+    References
+    ----------
+    Leuangthong, O. and Deutsch, C. V. (2003). Stepwise conditional transformation for simulation of
+    multiple variables. Mathematical Geology 35, 155-173.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> import numpy as np
+    >>> mixture = gravelox.GMMParams(
+    ...     2, [0.4, 0.6], [[0, 5], [3, 9]], [[[1, 0.5], [0.5, 2]], [[2, -1], [-1, 1]]])
+    >>> transform = gravelox.SCT(mixture)
+    >>> data = np.array([[0.0, 1.0, 3.0], [5.0, 4.0, 9.5]])  # 2 features, 3 samples
+    >>> scores = transform.forward(data)
+    >>> scores.shape, np.allclose(transform.backward(scores), data)
+    ((2, 3), True)
+    """
+    def __init__(self, gmm_params: GMMParams) -> None:
+        """
+        Make a transform of a mixture; it takes features in rows and samples in columns.
+
+        Weights that miss a sum of 1 by more than 1e-6 are scaled to it, with a line on the standard error
+        of the process: "Warning: GMM weights do not sum to 1. Renormalizing."
+
+        Parameters
+        ----------
+        gmm_params : GMMParams
+            The mixture, copied. Its features, the columns of `means`, are the rows of data.
+
+        Raises
+        ------
+        ValueError
+            "GMM parameters have inconsistent dimensions.", or for a covariance of another size (the message
+            names the component), no features, or a number that is not finite.
+        """
+    def backward(self, x: numpy.typing.ArrayLike) -> numpy.ndarray[numpy.float64[m, n]]:
+        """
+        Data of scores in columns, by a root finder.
+
+        Probabilities are clamped to 1e-9 and 0.999999999, that is scores to -6 and 6, so infinite ones have
+        values too. `forward` does not clamp: what it gives beyond comes back nearer. Where a root is not
+        found the value is NaN, and the standard error of the process has a line with the reason, "Warning:
+        Root finding failed with exception: ...".
+
+        Parameters
+        ----------
+        x : array_like of shape (d, n)
+            Scores, features in rows, samples in columns. After a NaN the rest of its column is NaN.
+
+        Returns
+        -------
+        numpy.ndarray of shape (d, n)
+            Values, in data units; NaN where no component is of use, and in the rest of that column.
+
+        Raises
+        ------
+        ValueError
+            "Input data SCT_Z has incorrect number of features."
+
+        References
+        ----------
+        Alefeld, G. E., Potra, F. A. and Shi, Y. (1995). Algorithm 748: enclosing zeros of continuous
+        functions. ACM Transactions on Mathematical Software 21, 327-344.
+        """
+    def forward(self, x: numpy.typing.ArrayLike) -> numpy.ndarray[numpy.float64[m, n]]:
+        """
+        Scores of samples in columns.
+
+        Nothing is clamped on this way, unlike in `backward`.
+
+        Parameters
+        ----------
+        x : array_like of shape (d, n)
+            Features in rows, samples in columns, in data units: the transpose of `GMMFitter.fit`.
+
+        Returns
+        -------
+        numpy.ndarray of shape (d, n)
+            Scores, without unit; NaN where no component is of use.
+
+        Raises
+        ------
+        ValueError
+            "Input data Z has incorrect number of features.", or if a number is not finite.
+        OverflowError
+            If a value is so far out that its probability is 0 or 1; the message names the first one.
         """
 class SimulatorFactory:
     """
@@ -2679,6 +3261,91 @@ def Direction(azimuth: float, dip: float) -> numpy.ndarray[numpy.float64[3, 1]]:
     >>> gravelox.Direction(90, 0).round(6).tolist()
     [1.0, 0.0, 0.0]
     """
+def EnsembleEstimation(local_covs: LocalCovariances, ellipsoid_search: Ellipsoid, max_neighbors: int, max_distance: float, max_cov_neis: int, max_neis_octant: int, power_a: float, max_weight: float, run_normalization: bool = True, use_sk: bool = False, sk_mean: float = 0.0, dhids: numpy.typing.ArrayLike = [], max_neis_by_dhid: int = -1) -> Estimator:
+    """
+    Estimation by many local models: nearby ones each krige a target, and their estimates are blended.
+
+    The estimate is the mean of the models' estimates with weights (distance error)^-`power_a`, where
+    distance is that of the target to the centre of a model, in real coordinates, and error the error of
+    that model. Estimates are those of `ensemble_estimation` with the same arguments.
+
+    Parameters
+    ----------
+    local_covs : LocalCovariances
+        The models, their centres and their errors.
+    ellipsoid_search : Ellipsoid
+        The metric in which the nearest centres are searched, in length units. Samples are searched in
+        the neighbourhood that the estimator is called with.
+    max_neighbors : int
+        Candidates are this many nearest samples; 0 and below switch to `max_distance`.
+    max_distance : float
+        Radius of the search in the neighbourhood's metric, used only without `max_neighbors`. A
+        negative radius counts by its absolute value.
+    max_cov_neis : int
+        Models are the ones of this many nearest centres; below 1 all of them.
+    max_neis_octant : int
+        Most samples in each octant around the target (real coordinates); 0 and below: no limit.
+    power_a : float
+        Exponent of the distance to a centre.
+    max_weight : float
+        Share of the estimate that goes to models whose distance times error is at most 1e-20, where
+        there are others too.
+    run_normalization : bool
+        Whether to krige (data - mean) / deviation, with the population standard deviation of the data,
+        and to scale the estimates back. Data that are all equal may then give NaN.
+    use_sk : bool
+        Whether to use simple kriging of the mean `sk_mean` in place of ordinary kriging.
+    sk_mean : float
+        The mean of simple kriging, in data units; with `run_normalization` in standard deviations from
+        the mean of the data, so that 0 is that mean.
+    dhids : list of int
+        Drill-hole id of each sample, or an empty list: no limit by hole.
+    max_neis_by_dhid : int
+        Most samples of one hole, counted after the octant limit; 0 and below: no limit.
+
+    Returns
+    -------
+    Estimator
+        To be called with targets, a neighbourhood and samples. A target without samples or models is
+        NaN, and so is one whose weights add up to 1e-10 or less.
+
+    Raises
+    ------
+    ValueError
+        If the lists of `local_covs` differ in length, or a centre or the ellipsoid is not finite.
+
+    Notes
+    -----
+    A model whose error is 0 or less, or not a number, counts as centred on every target. A single
+    sample is no special case: it goes through the system of each model.
+
+    Ordinary kriging's estimate is the weighted sum of the samples plus the Lagrange multiplier of the
+    system, which has the unit of the covariance. With `run_normalization` the samples' standard
+    deviation is 1, and so models with a total sill of 1 give estimates that are plainly wrong. Use
+    `use_sk`, whose estimate has no multiplier, or scale the sills: the weights do not depend on their
+    scale. A total of 1e-4 will do with `run_normalization`, otherwise of 1e-4 of the data's standard
+    deviation.
+
+    References
+    ----------
+    Matheron, G. (1963). Principles of geostatistics. Economic Geology 58, 1246-1266.
+
+    Examples
+    --------
+    Long ranges to the east on the one side, to the north on the other:
+
+    >>> import gravelox
+    >>> locations = [(0, 0, 0), (20, 0, 0), (80, 0, 0), (100, 0, 0)]
+    >>> covs = [[gravelox.Covariance.spherical(1.0, gravelox.Ellipsoid(90, 30, 30, azimuth, 0, 0))]
+    ...         for azimuth in (90, 0)]
+    >>> local = gravelox.LocalCovariances([(10, 0, 0), (90, 0, 0)], covs, [1.0, 1.0])
+    >>> search = gravelox.Ellipsoid(50, 50, 50, 90, 0, 0)
+    >>> estimator = gravelox.EnsembleEstimation(local, search, 4, -1, 2, -1, 2.0, 0.9, use_sk=True)
+    >>> hood = gravelox.Neighborhood(locations)
+    >>> estimates = estimator([(50, 0, 0), (20, 0, 0)], hood, locations, [1, 3, 5, 7])
+    >>> [round(estimate, 6) for estimate in estimates]
+    [4.0, 3.0]
+    """
 @typing.overload
 def FIM(corners: numpy.typing.ArrayLike, cov: Covariance, seed: int, nx: int, ny: int, nz: int, n_threads: int = 0) -> SpatialFunction:
     """
@@ -3283,6 +3950,109 @@ def chi_squared_distribution(k: float) -> Distribution:
     >>> round(gravelox.CDF(gravelox.chi_squared_distribution(3)).prob(0.95), 4)
     7.8147
     """
+def compute_covariance_error_idw(cov: list[Covariance], folds: list[tuple[list[numpy.ndarray[numpy.float64[3, 1]]], list[float]]], max_distance: float, max_size: int, power_a: float, min_partition_size: int, max_partition_size: int, n_partitions: int, regularization_const: float, n_threads: int = 0, seed: int = 2131) -> float:
+    """
+    The rating of a covariance model: error of inverse distance estimation, times a penalty on ranges.
+
+    Each group of samples is cross-validated with `kfold_cross_validation_using_idw` by itself, so
+    errors are in units of the group's own standard deviation. The error is multiplied by
+    1 + `regularization_const` P, where P is the sum of log(1 + r^2) over the ranges of all structures,
+    a nugget's (of 1) included. The interpreter lock is released.
+
+    Parameters
+    ----------
+    cov : list of Covariance
+        The model, with a total sill of 1.
+    folds : list of tuple of (array_like of shape (n, 3), sequence of float of length n)
+        Groups of samples, locations in length units and values in data units, as `create_folds` makes
+        them.
+    max_distance : float
+        Samples count for each other where they are strictly nearer than this, in length units.
+    max_size : int
+        Most candidates of a sample, itself included; below 1 there is no limit but `max_distance`.
+    power_a : float
+        Exponent of the distance 1 - covariance.
+    min_partition_size, max_partition_size : int
+        Bounds of the size of a partition, both inclusive.
+    n_partitions : int
+        Partitions of each sample: how often it is estimated.
+    regularization_const : float
+        Weight of the penalty on ranges; 0 for none.
+    n_threads : int
+        Threads; 0 means all. The rating is a sum over threads of each one's mean absolute error: by n
+        threads it is about n times as large. Compare ratings by one thread only.
+    seed : int
+        Seed of the partitions, the same for all groups.
+
+    Returns
+    -------
+    float
+        The error in standard deviations, with the penalty. Errors that are not finite are left out;
+        where all are, the rating is a perfect 0.
+
+    Raises
+    ------
+    ValueError
+        If `folds` are empty, the locations and values of one differ in length, a coordinate is not
+        finite, a count is negative, or `max_partition_size` is `min_partition_size` less 1.
+
+    Notes
+    -----
+    The penalty is on numbers, not on lengths: it weighs more in feet than in metres.
+
+    References
+    ----------
+    Stone, M. (1974). Cross-validatory choice and assessment of statistical predictions. Journal of the
+    Royal Statistical Society B 36, 111-147.
+    """
+def compute_ellipsoid_error_idw(ellipsoid: Ellipsoid, cov_kernel: Kernel, folds: list[tuple[list[numpy.ndarray[numpy.float64[3, 1]]], list[float]]], max_distance: float, max_size: int, power_a: float, min_partition_size: int, max_partition_size: int, n_partitions: int, regularization_const: float, n_threads: int = 0, seed: int = 2131) -> float:
+    """
+    The rating of an ellipsoid: error of inverse distance estimation, times a penalty on ranges.
+
+    It is `compute_covariance_error_idw` of one structure of sill 1. The interpreter lock is released.
+
+    Parameters
+    ----------
+    ellipsoid : Ellipsoid
+        The ellipsoid to rate, with ranges in length units.
+    cov_kernel : Kernel
+        The shape of the covariance.
+    folds : list of tuple of (array_like of shape (n, 3), sequence of float of length n)
+        Groups of samples, locations in length units and values in data units, as `create_folds` makes
+        them.
+    max_distance : float
+        Samples count for each other where they are strictly nearer than this, in length units.
+    max_size : int
+        Most candidates of a sample, itself included; below 1 there is no limit but `max_distance`.
+    power_a : float
+        Exponent of the distance 1 - covariance.
+    min_partition_size, max_partition_size : int
+        Bounds of the size of a partition, both inclusive.
+    n_partitions : int
+        Partitions of each sample: how often it is estimated.
+    regularization_const : float
+        Weight of the penalty on ranges; 0 for none.
+    n_threads : int
+        Threads; 0 means all. The rating grows with it: compare ratings by one thread only.
+    seed : int
+        Seed of the partitions.
+
+    Returns
+    -------
+    float
+        The error in standard deviations, with the penalty.
+
+    Raises
+    ------
+    ValueError
+        If `folds` are empty, the locations and values of one differ in length, a coordinate is not
+        finite, a count is negative, or `max_partition_size` is `min_partition_size` less 1.
+
+    References
+    ----------
+    Stone, M. (1974). Cross-validatory choice and assessment of statistical predictions. Journal of the
+    Royal Statistical Society B 36, 111-147.
+    """
 def compute_exp_variogram(data_locs: numpy.typing.ArrayLike, data_values: numpy.typing.ArrayLike, n_centers: int = 60, angle_tol: float = 5.0, n_lags: int = 75, lag_tol: float = 0.001, bandwidth: float = 0.02, window_size: int = 2, n_directions: int = 300, tol: float = 0.01, n_threads: int = 0, seed: int = 12415) -> ExperimentalVariogram:
     """
     Experimental variogram of scattered samples, from pairs around chosen centres.
@@ -3348,6 +4118,53 @@ def compute_exp_variogram(data_locs: numpy.typing.ArrayLike, data_values: numpy.
     >>> mean = lambda azimuth: np.mean(variogram.get_variogram(azimuth, 0)[1])
     >>> bool(mean(90) > 2 * mean(0))
     True
+    """
+def compute_optimum_rotation(A: numpy.typing.ArrayLike, is_surface: bool = False, is_ppmt: bool = False) -> tuple[numpy.ndarray[numpy.float64[m, n]], numpy.ndarray[numpy.float64[m, n]], numpy.ndarray[numpy.float64[m, n]], numpy.ndarray[numpy.float64[m, n]]]:
+    """
+    Matrices that carry data into their principal axes, with or without scales, and back.
+
+    With V and the scaled singular values t of `compute_svd_decomposition`, D2 = diag(t) and D1 is its
+    inverse. The numerator c of the scale stays in them: centred points end with standard deviations of 1 /
+    c, not of 1 (1 / sqrt(c) with `is_surface`).
+
+    Parameters
+    ----------
+    A : array_like of shape (r, c)
+        Points in rows and coordinates in columns, unlike `PPMT`, with c at most r.
+    is_surface : bool
+        Scale of the singular values, see `compute_svd_decomposition`.
+    is_ppmt : bool
+        Whether all scales are 1: rotations alone, as `PPMT` takes them. Values below 1e-30 have the
+        scale 1 at any rate.
+
+    Returns
+    -------
+    from_axes : numpy.ndarray of shape (c, c)
+        V D2, which undoes `to_axes`.
+    to_axes : numpy.ndarray of shape (c, c)
+        D1 V^T, for points in columns: `to_axes @ x`.
+    rows_from_axes : numpy.ndarray of shape (c, c)
+        D2 V^T, which undoes `rows_to_axes`.
+    rows_to_axes : numpy.ndarray of shape (c, c)
+        V D1, for points in rows: `A @ rows_to_axes`.
+
+    Raises
+    ------
+    ValueError
+        If `A` is empty, has fewer rows than columns, or a number is not finite.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> import numpy as np
+    >>> points = np.random.RandomState(7).normal(size=(500, 3)) * [5, 2, 1]  # in rows
+    >>> _, _, back, there = gravelox.compute_optimum_rotation(points)
+    >>> turned = points @ there
+    >>> np.allclose(turned @ back, points), np.allclose(turned.T @ turned / 500, np.eye(3) / 3**2)
+    (True, True)
+    >>> _, _, back, there = gravelox.compute_optimum_rotation(points, is_ppmt=True)
+    >>> np.allclose(there @ there.T, np.eye(3)), np.allclose(back, there.T)
+    (True, True)
     """
 def compute_ordinary_kriging(target_locs: numpy.typing.ArrayLike, data_locs: numpy.typing.ArrayLike, data: numpy.typing.ArrayLike, covs: list[Covariance], neighborhood: Neighborhood, max_neighbors: int, max_radius: float = -1.0, max_neighbors_octant: int = -1, n_threads: int = 0, dhids: numpy.typing.ArrayLike = [], max_neis_by_dhid: int = -1) -> tuple[list[float], list[float]]:
     """
@@ -3417,6 +4234,90 @@ def compute_ordinary_kriging(target_locs: numpy.typing.ArrayLike, data_locs: num
     >>> round(estimates[0], 4), round(variances[0] / scale, 4)
     (2.0, 0.3906)
     """
+def compute_simple_ensemble_estimation(target_locs: numpy.typing.ArrayLike, data_locs: numpy.typing.ArrayLike, data: numpy.typing.ArrayLike, local_covs: LocalCovariances, ellipsoid_search: Ellipsoid, n_neis: int, max_radius: float, max_neis_octant: int, n_cov_neis: int, lambda_e: float, alpha: float, lambda_r: float, beta: float, n_threads: int = 0, dhids: numpy.typing.ArrayLike = [], max_neis_by_dhid: int = -1) -> list[float]:
+    """
+    Estimation by many local models with weights that fall exponentially, in parallel.
+
+    The estimate is the mean of the ordinary kriging estimates of the models around a target, each
+    weighted by exp(-(distance `lambda_r`)^`alpha` - |error `lambda_e`|^`beta`), where distance is
+    that of the target to the centre of a model, in real coordinates, and error the error of that model.
+    The interpreter lock is released.
+
+    Parameters
+    ----------
+    target_locs : array_like of shape (m, 3)
+        Where to estimate.
+    data_locs : array_like of shape (n, 3)
+        Locations of the samples.
+    data : sequence of float of length n
+        Values of the samples, in data units.
+    local_covs : LocalCovariances
+        The models, their centres and their errors.
+    ellipsoid_search : Ellipsoid
+        The metric in which samples and centres are searched, in length units.
+    n_neis : int
+        Candidates are this many nearest samples; 0 and below switch to `max_radius`.
+    max_radius : float
+        Radius of the search in the metric of `ellipsoid_search`, used only without `n_neis`. A negative
+        radius counts by its absolute value.
+    max_neis_octant : int
+        Most samples in each octant around the target (real coordinates); 0 and below: no limit.
+    n_cov_neis : int
+        Models are the ones of this many nearest centres; with 0 every target is NaN.
+    lambda_e : float
+        Scale of the errors, in one over their unit.
+    alpha : float
+        Exponent of the distance.
+    lambda_r : float
+        Scale of the distance, in one over length units, at least 0.
+    beta : float
+        Exponent of the error.
+    n_threads : int
+        Threads; 0 means all. Estimates do not depend on it.
+    dhids : list of int
+        Drill-hole id of each sample, or an empty list: no limit by hole.
+    max_neis_by_dhid : int
+        Most samples of one hole, counted after the octant limit; 0 and below: no limit.
+
+    Returns
+    -------
+    list of float
+        One estimate for each target, in data units. NaN without samples or models, and where all
+        centres are so far away that every weight is 0; the sample's value with a single sample.
+
+    Raises
+    ------
+    ValueError
+        If lists differ in length, a coordinate or the ellipsoid is not finite, or `n_cov_neis` is
+        negative.
+
+    Notes
+    -----
+    The estimate of each model is that of `compute_ordinary_kriging`: the weighted sum of the samples
+    plus the Lagrange multiplier of the system, which has the unit of the covariance. With sills in data
+    units squared the estimates are plainly wrong. The weights do not depend on the scale of the sills,
+    so scale them: let them add up to about 1e-4 of the data's standard deviation. `ensemble_estimation`
+    can also use simple kriging, whose estimate has no multiplier.
+
+    References
+    ----------
+    Matheron, G. (1963). Principles of geostatistics. Economic Geology 58, 1246-1266.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> locations = [(0, 0, 0), (20, 0, 0), (80, 0, 0), (100, 0, 0)]
+    >>> scale = 1e-6  # of the sill, so that the multiplier does not show
+    >>> covs = [[gravelox.Covariance.spherical(scale, gravelox.Ellipsoid(90, 30, 30, azimuth, 0, 0))]
+    ...         for azimuth in (90, 0)]
+    >>> local = gravelox.LocalCovariances([(10, 0, 0), (90, 0, 0)], covs, [1.0, 1.0])
+    >>> search = gravelox.Ellipsoid(50, 50, 50, 90, 0, 0)
+    >>> estimates = gravelox.compute_simple_ensemble_estimation(
+    ...     [(50, 0, 0), (20, 0, 0)], locations, [1, 3, 5, 7], local, search, 4, -1, -1, 2,
+    ...     1.0, 1.0, 0.05, 1.0)
+    >>> [round(estimate, 4) for estimate in estimates]
+    [4.0, 3.0]
+    """
 def compute_simple_kriging(target_locs: numpy.typing.ArrayLike, data_locs: numpy.typing.ArrayLike, data: numpy.typing.ArrayLike, covs: list[Covariance], mean: float, neighborhood: Neighborhood, max_neighbors: int, max_radius: float = -1.0, max_neighbors_octant: int = -1, n_threads: int = 0, dhids: numpy.typing.ArrayLike = [], max_neis_by_dhid: int = -1) -> tuple[list[float], list[float]]:
     """
     Estimates and variances of simple kriging, in parallel.
@@ -3479,6 +4380,36 @@ def compute_simple_kriging(target_locs: numpy.typing.ArrayLike, data_locs: numpy
     ...     [(5, 0, 0)], locations, [1.0, 3.0], covs, 2.0, gravelox.Neighborhood(locations), 2)
     >>> round(estimates[0], 6)
     2.0
+    """
+def compute_svd_decomposition(A: numpy.typing.ArrayLike, is_surface: bool = False) -> tuple[numpy.ndarray[numpy.float64[m, 1]], numpy.ndarray[numpy.float64[m, n]], numpy.ndarray[numpy.float64[m, n]], numpy.ndarray[numpy.float64[m, 1]]]:
+    """
+    The thin singular value decomposition A = U diag(s) V^T, with scaled singular values.
+
+    The scale is c / sqrt(r) for r rows and c columns: mind its numerator. The usual scale, which makes
+    standard deviations along the principal axes of centred points in rows, is 1 / sqrt(r).
+
+    Parameters
+    ----------
+    A : array_like of shape (r, c)
+        The matrix; for data, points in rows and coordinates in columns, unlike `PPMT`.
+    is_surface : bool
+        Whether the scale is c / sqrt(r c) instead.
+
+    Returns
+    -------
+    scaled : numpy.ndarray of shape (k,)
+        The singular values times the scale, in the unit of `A`; k is the lesser of r and c.
+    V : numpy.ndarray of shape (c, k)
+        Right singular vectors, in columns.
+    U : numpy.ndarray of shape (r, k)
+        Left singular vectors, in columns.
+    s : numpy.ndarray of shape (k,)
+        The singular values, from the greatest to the least, in the unit of `A`.
+
+    Raises
+    ------
+    ValueError
+        If `A` is empty or a number is not finite.
     """
 @typing.overload
 def compute_variogram(corners: numpy.typing.ArrayLike, locations: numpy.typing.ArrayLike, data: numpy.typing.ArrayLike, nx: int, ny: int, nz: int, n_directions: int, n_lags: int, bandwidth: float, n_threads: int = 0, seed: int = 12415, origin: numpy.typing.ArrayLike = (0, 0, 0), rotation: numpy.typing.ArrayLike = (90, 0, 0)) -> ExperimentalVariogram:
@@ -3656,6 +4587,108 @@ def covariance_computer(covs: list[Covariance]) -> SpatialFunction:
     >>> gravelox.covariance_computer(covs)((10, 0, 0))
     0.0
     """
+def create_folds(data_locs: numpy.typing.ArrayLike, data_values: numpy.typing.ArrayLike, max_distance: float, max_size: int, n_centers: int, seed: int = 21315) -> list[tuple[list[numpy.ndarray[numpy.float64[3, 1]]], list[float]]]:
+    """
+    Cut groups of neighbours out of the samples, each around a centre of high value.
+
+    The first centre is the sample of the highest value; the others are drawn from the upper half of the
+    values, and one may be drawn again. Groups overlap, and not every sample need be in one. Both
+    searches are as approximate as a `Neighborhood`. The interpreter lock is released.
+
+    Parameters
+    ----------
+    data_locs : array_like of shape (n, 3)
+        Locations of the samples, in metres or another length unit.
+    data_values : sequence of float of length n
+        Values of the samples, in data units.
+    max_distance : float
+        Greatest distance of a member to its centre, inclusive, in length units.
+    max_size : int
+        Candidates are this many nearest samples; below 1, or from the number of samples on, all within
+        `max_distance`.
+    n_centers : int
+        Number of groups. Those without members are left out; where none is left, as for 0, all samples
+        make one group.
+    seed : int
+        Seed of the centres.
+
+    Returns
+    -------
+    list of tuple of (list of numpy.ndarray of shape (3,), list of float)
+        Locations and values of each group, nearest to its centre first.
+
+    Raises
+    ------
+    ValueError
+        If there are no samples, lists differ in length, a coordinate is not finite, a value is NaN, or
+        `n_centers` is negative.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> locations = [(float(x), 0, 0) for x in range(10)]
+    >>> folds = gravelox.create_folds(locations, range(10), 2.5, -1, 4)
+    >>> len(folds)
+    4
+    >>> folds[0][1]
+    [9.0, 8.0, 7.0]
+    """
+def create_folds_using_multiscale(n_partitions: int, min_partition_size: int, max_partition_size: int, max_distance: float, scales: numpy.typing.ArrayLike, search_ellipsoid: Ellipsoid, data_locs: numpy.typing.ArrayLike, data: numpy.typing.ArrayLike, max_radius: float, max_size: int, max_neis_octant: int, seed: int = 1231255, n_threads: int = 0, dhids: numpy.typing.ArrayLike = [], max_neis_by_dhid: int = -1) -> list[tuple[list[numpy.ndarray[numpy.float64[3, 1]]], list[float]]]:
+    """
+    Cut groups of neighbours out of samples thinned at several scales.
+
+    At each scale space is divided into cells, in the metric of an ellipsoid, and one random sample of
+    each cell is kept; `create_folds` makes `n_partitions` groups of these.
+
+    Parameters
+    ----------
+    n_partitions : int
+        Groups at each scale: the `n_centers` of `create_folds`.
+    min_partition_size : int
+        Groups with fewer members are left out.
+    max_partition_size : int
+        Most members of a group; below 1 all within `max_distance`.
+    max_distance : float
+        Greatest distance of a member to its centre, inclusive, in length units.
+    scales : sequence of float
+        Sides of the cells in the space of `search_ellipsoid`, in multiples of its ranges.
+    search_ellipsoid : Ellipsoid
+        The metric of the cells.
+    data_locs : array_like of shape (n, 3)
+        Locations of the samples, in metres or another length unit.
+    data : sequence of float of length n
+        Values of the samples, in data units.
+    max_radius : float
+        Accepted and not used.
+    max_size : int
+        Accepted and not used.
+    max_neis_octant : int
+        Accepted and not used.
+    seed : int
+        Seed of the samples kept and of the centres.
+    n_threads : int
+        Accepted and not used.
+    dhids : list of int
+        Accepted and not used.
+    max_neis_by_dhid : int
+        Accepted and not used.
+
+    Returns
+    -------
+    list of tuple of (list of numpy.ndarray of shape (3,), list of float)
+        Locations and values of each group, scale by scale.
+
+    Raises
+    ------
+    ValueError
+        If there are no samples, lists differ in length, a coordinate is not finite, a value is NaN,
+        `n_partitions` is negative, or a scale is 0 or not finite.
+
+    Notes
+    -----
+    Cells are counted from the origin of coordinates towards 0 on both sides: those along a coordinate
+    plane are twice as wide.
+    """
 @typing.overload
 def create_random_drillholes(bottom: numpy.typing.ArrayLike, top: numpy.typing.ArrayLike, n_samples_by_dh: int, min_len: float, max_len: float, n_drillholes: int, seed: int = 121415) -> tuple[list[numpy.ndarray[numpy.float64[3, 1]]], list[int]]:
     """
@@ -3727,6 +4760,64 @@ def create_random_drillholes(l1: float, l2: float, n_drillholes: int, min_azimut
     dhids : list of int
         The hole id of each sample.
     """
+def create_random_orthogonal_matrix(N: int, seed: int) -> numpy.ndarray[numpy.float64[m, n]]:
+    """
+    A random orthogonal matrix: the factor Q of a matrix of standard normals.
+
+    `create_random_rotation` is the same. Signs stay as Householder's decomposition gives them: it may
+    be a reflection, and draws are not uniform over all orthogonal matrices.
+
+    Parameters
+    ----------
+    N : int
+        Rows and columns, at least 1.
+    seed : int
+        Seed; a negative one counts modulo 2^32.
+
+    Returns
+    -------
+    numpy.ndarray of shape (N, N)
+        The matrix Q, for points in columns (`Q @ x`) or rows (`x @ Q`); its transpose undoes it.
+
+    Raises
+    ------
+    ValueError
+        If `N` is below 1, or the matrix does not fit into memory.
+
+    References
+    ----------
+    Stewart, G. W. (1980). The efficient generation of random orthogonal matrices with an application to
+    condition estimators. SIAM Journal on Numerical Analysis 17, 403-409.
+    """
+def create_random_rotation(N: int, seed: int) -> numpy.ndarray[numpy.float64[m, n]]:
+    """
+    A random orthogonal matrix: the factor Q of a matrix of standard normals.
+
+    `create_random_rotation` is the same. Signs stay as Householder's decomposition gives them: it may
+    be a reflection, and draws are not uniform over all orthogonal matrices.
+
+    Parameters
+    ----------
+    N : int
+        Rows and columns, at least 1.
+    seed : int
+        Seed; a negative one counts modulo 2^32.
+
+    Returns
+    -------
+    numpy.ndarray of shape (N, N)
+        The matrix Q, for points in columns (`Q @ x`) or rows (`x @ Q`); its transpose undoes it.
+
+    Raises
+    ------
+    ValueError
+        If `N` is below 1, or the matrix does not fit into memory.
+
+    References
+    ----------
+    Stewart, G. W. (1980). The efficient generation of random orthogonal matrices with an application to
+    condition estimators. SIAM Journal on Numerical Analysis 17, 403-409.
+    """
 def data_distribution(data: numpy.typing.ArrayLike, weight: numpy.typing.ArrayLike = []) -> Distribution:
     """
     The distribution of samples, with or without weights.
@@ -3768,6 +4859,347 @@ def data_distribution(data: numpy.typing.ArrayLike, weight: numpy.typing.ArrayLi
     >>> round(weighted.value(2.0), 6)
     0.75
     """
+def ensemble_ellipsoid(w: numpy.typing.ArrayLike, ellipsoids: list[Ellipsoid]) -> Ellipsoid:
+    """
+    Blend ellipsoids into one, whose ranges come out reciprocal.
+
+    The ranges and angles of the ellipsoids go into `ensemble_model` as they are. That inverts ranges,
+    and so those of the result are one over the blended ranges, the longest axis of the blend being its
+    shortest; the example turns it back. The interpreter lock is released.
+
+    Parameters
+    ----------
+    w : sequence of float of length n
+        Weights. One of 0 adds nothing; NaN comes out where those of the first two to be blended, or of
+        all so far, add up to 0.
+    ellipsoids : list of Ellipsoid
+        The ellipsoids, n of them, in length units.
+
+    Returns
+    -------
+    Ellipsoid
+        The blend, with ranges in one over length units: divide each row of its matrix by its squared
+        length to have it in length units.
+
+    Raises
+    ------
+    ValueError
+        If the lists are empty, differ in length, or hold a number that is not finite.
+
+    Notes
+    -----
+    What is averaged are axes as long as their ranges, so ranges that differ by much are averaged
+    plainly: 10 and 30 give 20. Each range is 1e-6 greater in the blend.
+
+    Ellipsoids enter as `info` reads them. One whose axes are left-handed after sorting, which a rake
+    other than 0 may bring about, reads as another ellipsoid, turned about its longest axis: see to it
+    that Ellipsoid(ellipsoid.info()) is still the ellipsoid.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> ellipsoids = [gravelox.Ellipsoid(100, 50, 20, azimuth, 0, 0) for azimuth in (30, 50)]
+    >>> reciprocal = gravelox.ensemble_ellipsoid([1, 1], ellipsoids)
+    >>> axes = reciprocal.matrix()
+    >>> blend = gravelox.Ellipsoid(axes / (axes**2).sum(axis=1, keepdims=True))
+    >>> info = blend.info()
+    >>> round(info.r1()), round(info.r2()), round(info.r3()), round(info.azimuth(), 6)
+    (98, 49, 20, 40.0)
+    """
+def ensemble_estimation(target_locs: numpy.typing.ArrayLike, data_locs: numpy.typing.ArrayLike, data: numpy.typing.ArrayLike, local_covs: LocalCovariances, search_ellipsoid: Ellipsoid, max_size: int, max_distance: float, max_cov_neis: int, max_neis_octant: int, power_a: float, max_weight: float, n_threads: int = 0, run_normalization: bool = True, data_nei: Neighborhood | None = None, use_sk: bool = False, sk_mean: float = 0.0, dhids: numpy.typing.ArrayLike = [], max_neis_by_dhid: int = -1) -> list[float]:
+    """
+    Estimation by many local models: nearby ones each krige a target, and their estimates are blended.
+
+    The estimate is the mean of the models' estimates with weights (distance error)^-`power_a`, where
+    distance is that of the target to the centre of a model, in real coordinates, and error the error of
+    that model. `EnsembleEstimation` is the same as an estimator. The interpreter lock is released.
+
+    Parameters
+    ----------
+    target_locs : array_like of shape (m, 3)
+        Where to estimate, in metres or another length unit.
+    data_locs : array_like of shape (n, 3)
+        Locations of the samples.
+    data : sequence of float of length n
+        Values of the samples, in data units.
+    local_covs : LocalCovariances
+        The models, their centres and their errors.
+    search_ellipsoid : Ellipsoid
+        The metric in which the nearest centres are searched, and the samples without `data_nei`, in
+        length units.
+    max_size : int
+        Candidates are this many nearest samples; 0 and below switch to `max_distance`.
+    max_distance : float
+        Radius of the search for samples in its metric, used only without `max_size`. A negative radius
+        counts by its absolute value.
+    max_cov_neis : int
+        Models are the ones of this many nearest centres; below 1 all of them.
+    max_neis_octant : int
+        Most samples in each octant around the target (real coordinates); 0 and below: no limit.
+    power_a : float
+        Exponent of the distance to a centre.
+    max_weight : float
+        Share of the estimate that goes to models whose distance times error is at most 1e-20, where
+        there are others too.
+    n_threads : int
+        Threads; 0 means all. Estimates do not depend on it.
+    run_normalization : bool
+        Whether to krige (data - mean) / deviation, with the population standard deviation of the data,
+        and to scale the estimates back. Data that are all equal may then give NaN.
+    data_nei : Neighborhood or None
+        A search over the samples' locations, `data_locs` beginning with those; None makes one with the
+        search ellipsoid.
+    use_sk : bool
+        Whether to use simple kriging of the mean `sk_mean` in place of ordinary kriging.
+    sk_mean : float
+        The mean of simple kriging, in data units; with `run_normalization` in standard deviations from
+        the mean of the data, so that 0 is that mean.
+    dhids : list of int
+        Drill-hole id of each sample, or an empty list: no limit by hole.
+    max_neis_by_dhid : int
+        Most samples of one hole, counted after the octant limit; 0 and below: no limit.
+
+    Returns
+    -------
+    list of float
+        One estimate for each target, in data units. NaN without samples or models, and where weights
+        add up to 1e-10 or less.
+
+    Raises
+    ------
+    ValueError
+        If lists differ in length, a coordinate or the ellipsoid is not finite, or `data_nei` holds more
+        locations than `data_locs`.
+
+    Notes
+    -----
+    A model whose error is 0 or less, or not a number, counts as centred on every target. A single
+    sample is no special case: it goes through the system of each model.
+
+    Ordinary kriging's estimate is the weighted sum of the samples plus the Lagrange multiplier of the
+    system, which has the unit of the covariance. With `run_normalization` the samples' standard
+    deviation is 1, and so models with a total sill of 1 give estimates that are plainly wrong. Use
+    `use_sk`, whose estimate has no multiplier, or scale the sills: the weights do not depend on their
+    scale. A total of 1e-4 will do with `run_normalization`, otherwise of 1e-4 of the data's standard
+    deviation.
+
+    References
+    ----------
+    Matheron, G. (1963). Principles of geostatistics. Economic Geology 58, 1246-1266.
+
+    Examples
+    --------
+    Long ranges to the east on the one side, to the north on the other:
+
+    >>> import gravelox
+    >>> locations = [(0, 0, 0), (20, 0, 0), (80, 0, 0), (100, 0, 0)]
+    >>> covs = [[gravelox.Covariance.spherical(1.0, gravelox.Ellipsoid(90, 30, 30, azimuth, 0, 0))]
+    ...         for azimuth in (90, 0)]
+    >>> local = gravelox.LocalCovariances([(10, 0, 0), (90, 0, 0)], covs, [1.0, 1.0])
+    >>> search = gravelox.Ellipsoid(50, 50, 50, 90, 0, 0)
+    >>> estimates = gravelox.ensemble_estimation(
+    ...     [(50, 0, 0), (20, 0, 0)], locations, [1, 3, 5, 7], local, search, 4, -1, 2, -1, 2.0, 0.9,
+    ...     use_sk=True)
+    >>> [round(estimate, 6) for estimate in estimates]
+    [4.0, 3.0]
+    """
+def ensemble_local_ellipsoids(target_locs: numpy.typing.ArrayLike, ellipsoid_locs: numpy.typing.ArrayLike, ellipsoids: list[Ellipsoid], ellipsoid_weights: numpy.typing.ArrayLike, n_neis: int = 20, max_radius: float = -1.0, max_neis_octant: int = -1, eps: float = 0.01, n_threads: int = 0, dhids: numpy.typing.ArrayLike = [], max_neis_by_dhid: int = -1) -> list[Ellipsoid]:
+    """
+    Blend the ellipsoids around each target into one, in parallel; ranges come out reciprocal.
+
+    Each result is `ensemble_ellipsoid` of the nearby ellipsoids with the weights
+    weight / (distance^3 + `eps`), so its ranges are one over the blended ranges; the example turns one
+    back. The interpreter lock is released.
+
+    Parameters
+    ----------
+    target_locs : array_like of shape (m, 3)
+        Where to blend, in metres or another length unit.
+    ellipsoid_locs : array_like of shape (n, 3)
+        Where the ellipsoids hold.
+    ellipsoids : list of Ellipsoid
+        The ellipsoids, n of them, in length units.
+    ellipsoid_weights : sequence of float of length n
+        Weights before the distance counts, such as one over the error of each ellipsoid.
+    n_neis : int
+        Candidates are this many nearest ellipsoids; 0 and below switch to `max_radius`.
+    max_radius : float
+        Radius of the search in length units, used only without `n_neis`. A negative radius counts by
+        its absolute value, so the default is a radius of 1.
+    max_neis_octant : int
+        Most ellipsoids in each octant around the target; 0 and below: no limit.
+    eps : float
+        Added to the cubed distance, above 0, in cubed length units: it bounds the weight of an
+        ellipsoid at the target.
+    n_threads : int
+        Threads; 0 means all. Ellipsoids do not depend on it.
+    dhids : list of int
+        Drill-hole id of each ellipsoid, or an empty list: no limit by hole.
+    max_neis_by_dhid : int
+        Most ellipsoids of one hole, counted after the octant limit; 0 and below: no limit.
+
+    Returns
+    -------
+    list of Ellipsoid
+        One for each target, with ranges in one over length units: divide each row of its matrix by its
+        squared length to have it in length units. The unit sphere where there are no neighbours.
+
+    Raises
+    ------
+    ValueError
+        If lists differ in length or hold a number that is not finite, or `eps` is not finite.
+
+    Notes
+    -----
+    Ellipsoids enter as `info` reads them. One whose axes are left-handed after sorting, which a rake
+    other than 0 may bring about, reads as another ellipsoid, turned about its longest axis: see to it
+    that Ellipsoid(ellipsoid.info()) is still the ellipsoid.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> ellipsoids = [gravelox.Ellipsoid(100, 50, 20, azimuth, 0, 0) for azimuth in (30, 50)]
+    >>> centers = [(0, 0, 0), (200, 0, 0)]
+    >>> results = gravelox.ensemble_local_ellipsoids([(100, 0, 0)], centers, ellipsoids, [1, 1])
+    >>> axes = results[0].matrix()
+    >>> info = gravelox.Ellipsoid(axes / (axes**2).sum(axis=1, keepdims=True)).info()
+    >>> round(info.r1()), round(info.r2()), round(info.r3()), round(info.azimuth(), 6)
+    (98, 49, 20, 40.0)
+    """
+def ensemble_model(r1: numpy.typing.ArrayLike, r2: numpy.typing.ArrayLike, r3: numpy.typing.ArrayLike, azimuth: numpy.typing.ArrayLike, dip: numpy.typing.ArrayLike, rake: numpy.typing.ArrayLike, w: numpy.typing.ArrayLike) -> Ellipsoid:
+    """
+    Blend ellipsoids of given reciprocal ranges and angles into one.
+
+    Axes of two ellipsoids share no order and no sign, so they are aligned before their matrices are
+    averaged. The heaviest ellipsoid starts the mean; then, again and again, the one that is most like
+    the mean so far joins it by weight, with its axes in the order and with the signs that differ least
+    from the mean's. The interpreter lock is released.
+
+    Parameters
+    ----------
+    r1, r2, r3 : sequence of float of length n
+        Ranges, which are inverted on entry: ellipsoids with ranges 1 / (r + 1e-6) are blended. So give
+        reciprocal ranges, in one over length units.
+    azimuth, dip, rake : sequence of float of length n
+        Angles in degrees.
+    w : sequence of float of length n
+        Weights. One of 0 adds nothing; NaN comes out where those of the first two to be blended, or of
+        all so far, add up to 0.
+
+    Returns
+    -------
+    Ellipsoid
+        With reciprocal ranges given, the blend in length units. Its axes are sorted and made
+        orthogonal.
+
+    Raises
+    ------
+    ValueError
+        If the lists are empty, differ in length, or hold a number that is not finite.
+
+    Notes
+    -----
+    Costs the square of the number of ellipsoids.
+
+    Examples
+    --------
+    Ranges of 100, 50 and 20 at two azimuths:
+
+    >>> import gravelox
+    >>> blend = gravelox.ensemble_model(
+    ...     [1 / 100, 1 / 100], [1 / 50, 1 / 50], [1 / 20, 1 / 20], [30, 50], [0, 0], [0, 0], [1, 1])
+    >>> info = blend.info()
+    >>> round(info.r1()), round(info.r2()), round(info.r3()), round(info.azimuth(), 6)
+    (102, 51, 20, 40.0)
+    """
+def ensemble_simulation(target_locs: numpy.typing.ArrayLike, data_locs: numpy.typing.ArrayLike, data: numpy.typing.ArrayLike, local_covs: LocalCovariances, search_ellipsoid: Ellipsoid, simulator_factory: SimulatorFactory, max_size: int, max_distance: float, max_cov_neis: int, max_neis_octant: int, power_a: float, max_weight: float, seed: int, n_threads: int = 0, dhids: numpy.typing.ArrayLike = [], max_neis_by_dhid: int = -1) -> list[float]:
+    """
+    Blend one realisation of each local model into a field and make it honour samples, in parallel.
+
+    The field is that of `unconditional_ensemble_simulation`. What the samples differ from it by is
+    estimated by the same models, as by `ensemble_estimation` with simple kriging of mean 0 and no
+    normalisation, and added. The interpreter lock is released.
+
+    Parameters
+    ----------
+    target_locs : array_like of shape (m, 3)
+        Where to simulate, in metres or another length unit.
+    data_locs : array_like of shape (n, 3)
+        Locations of the samples.
+    data : sequence of float of length n
+        Values of the samples: normal scores, see `NScore`, or others of mean 0 whose variance the
+        models' sills add up to.
+    local_covs : LocalCovariances
+        The models, their centres and their errors.
+    search_ellipsoid : Ellipsoid
+        The metric in which samples and centres are searched, in length units.
+    simulator_factory : SimulatorFactory
+        Makes the realisation of each model.
+    max_size : int
+        Candidates are this many nearest samples; 0 and below switch to `max_distance`.
+    max_distance : float
+        Radius of the search in the metric of `search_ellipsoid`, used only without `max_size`. A
+        negative radius counts by its absolute value.
+    max_cov_neis : int
+        Models that estimate are the ones of this many nearest centres; below 1 all of them. The field
+        has all of them at every location.
+    max_neis_octant : int
+        Most samples in each octant around the target (real coordinates); 0 and below: no limit.
+    power_a : float
+        Exponent of the distance to a centre.
+    max_weight : float
+        Share of the estimate, and of the squared weight in the field, that goes to models whose
+        distance times error is at most 1e-20, where there are others too.
+    seed : int
+        Seed of the realisation.
+    n_threads : int
+        Threads; 0 means all. Values do not depend on it, white noise (a nugget) excepted.
+    dhids : list of int
+        Drill-hole id of each sample, or an empty list: no limit by hole.
+    max_neis_by_dhid : int
+        Most samples of one hole, counted after the octant limit; 0 and below: no limit.
+
+    Returns
+    -------
+    list of float
+        One value for each target, in the units of the data; NaN without samples or models, and where
+        the weights of the estimates add up to 1e-10 or less. At a sample's location the value of the
+        sample, where models have no nugget.
+
+    Raises
+    ------
+    ValueError
+        If lists differ in length, or a coordinate or the ellipsoid is not finite.
+
+    Notes
+    -----
+    White noise (a nugget) in a model is not a function of the location: each evaluation is a fresh
+    draw, first at the samples, then at the targets. A target on a sample therefore does not have its
+    value. A run repeats only for an equal number of threads.
+
+    References
+    ----------
+    Journel, A. G. (1974). Geostatistics for conditional simulation of ore bodies. Economic Geology 69,
+    673-687.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> corners = gravelox.CartesianGrid((100, 100, 20), (10, 10, 4)).corners()
+    >>> covs = [[gravelox.Covariance.spherical(1.0, gravelox.Ellipsoid(60, 40, 20, azimuth, 0, 0))]
+    ...         for azimuth in (30, 120)]
+    >>> local = gravelox.LocalCovariances([(20, 50, 10), (80, 50, 10)], covs, [1.0, 1.0])
+    >>> search = gravelox.Ellipsoid(50, 50, 20, 90, 0, 0)
+    >>> factory = gravelox.SimulatorFactory.TBSIM(corners)
+    >>> locations, scores = [(20, 30, 0), (25, 35, 0)], [1.2, -0.4]
+    >>> one, two = (
+    ...     gravelox.ensemble_simulation(
+    ...         [(20, 30, 0), (22, 33, 0)], locations, scores, local, search, factory, 2, -1, 2, -1,
+    ...         2.0, 0.9, seed)
+    ...     for seed in (1, 2))
+    >>> round(one[0], 4), round(two[0], 4), one[1] == two[1]
+    (1.2, 1.2, False)
+    """
 def exponential_distribution(__lambda: float) -> Distribution:
     """
     The exponential distribution.
@@ -3795,6 +5227,97 @@ def exponential_distribution(__lambda: float) -> Distribution:
     >>> import gravelox
     >>> round(gravelox.PDF(gravelox.exponential_distribution(2.0)).median(), 4)
     0.3466
+    """
+def extract_covariance_from_varmap(lags: numpy.typing.ArrayLike, variogram: numpy.typing.ArrayLike, weight: numpy.typing.ArrayLike, n_structures: int, cov_kernel: str, min_r1: float, min_r2: float, min_r3: float, max_r1: float, max_r2: float, max_r3: float, total_sill: float, n_iterations: int, b: float, cauchy_loss: float, regularization_const: float, threshold: float, seed: int, n_threads: int = 0, debug: bool = True) -> list[Covariance]:
+    """
+    Fit a nested covariance model with a nugget to the lags of an experimental variogram.
+
+    Derivatives are automatic, the solver is that of Levenberg and Marquardt. A fit is local: it starts
+    from axes along the grid. The interpreter lock is released.
+
+    Parameters
+    ----------
+    lags : array_like of shape (n, 3)
+        Lag vectors, in length units.
+    variogram : sequence of float of length n
+        Semivariances, in data units squared.
+    weight : sequence of float of length n
+        Weights, such as pair counts.
+    n_structures : int
+        Structures beside the nugget, at least 1.
+    cov_kernel : str
+        Their shape: "spherical", "gaussian" or "exponential".
+    min_r1, min_r2, min_r3 : float
+        Least ranges along x, y and z before the fit turns them, in length units, the same for all
+        structures.
+    max_r1, max_r2, max_r3 : float
+        Greatest ranges, likewise. A fit starts from the middle.
+    total_sill : float
+        Sum of all sills, in data units squared; not 0.
+    n_iterations : int
+        Most iterations of the solver.
+    b : float
+        Lags are weighted by 1 / length^`b`, in units of a third of the vector of greatest ranges; 0 for
+        none.
+    cauchy_loss : float
+        Scale of a Cauchy loss on misfits, which bounds the pull of outliers; below 1e-10 there is none.
+    regularization_const : float
+        Weight of a prior that prefers short ranges to long ones, shared by the structures; 0 for none.
+    threshold : float
+        Lags with semivariances above this multiple of `total_sill` are left out.
+    seed : int
+        Accepted and not used: a fit draws nothing.
+    n_threads : int
+        Threads; 0 means all. The result does not depend on it.
+    debug : bool
+        Whether to print iterations on the standard output and a report on the standard error of the
+        process (not on `sys.stdout`).
+
+    Returns
+    -------
+    list of Covariance
+        `n_structures` structures and a nugget, whose sills add up to `total_sill`. Nothing tells of a
+        fit that failed.
+
+    Raises
+    ------
+    ValueError
+        If lists differ in length, a coordinate or a bound is not finite, `n_structures` is below 1,
+        `n_iterations` is negative, `cov_kernel` is unknown, or a least range is above its greatest.
+
+    Notes
+    -----
+    Angles of the fit are turns about the coordinate axes. An ellipsoid whose axes lie along these comes
+    back as it was fitted. One that lies askew does not: turns and ranges are multiplied the other way
+    round than in the fit, so that axes and ranges become others, and at 45 degrees hardly resemble it.
+    There turn the lags until their structure lies along the coordinates, and set the variogram of the
+    result beside them.
+
+    All structures start from the same ranges; what tells them apart in a fit is little, so look at how
+    much each differs from the others.
+
+    References
+    ----------
+    Marquardt, D. W. (1963). An algorithm for least-squares estimation of nonlinear parameters. Journal
+    of the Society for Industrial and Applied Mathematics 11, 431-441.
+
+    Examples
+    --------
+    A variogram map of a known model:
+
+    >>> import gravelox
+    >>> import numpy as np
+    >>> model = [gravelox.Covariance.spherical(3.0, gravelox.Ellipsoid(40, 20, 10, 90, 0, 0)),
+    ...          gravelox.Covariance.nugget(1.0)]
+    >>> lags = np.random.RandomState(1).normal(0, 12, (300, 3))
+    >>> values = [*map(gravelox.variogram_computer(model, 4.0), lags)]
+    >>> fitted = gravelox.extract_covariance_from_varmap(
+    ...     lags, values, [1.0] * 300, 1, "spherical", 1, 1, 1, 80, 80, 80, 4.0, 200, 0.0, 0.0, 0.0,
+    ...     1.2, 0, debug=False)
+    >>> len(fitted), round(sum(structure.sill() for structure in fitted), 6)
+    (2, 4.0)
+    >>> bool(abs(fitted[0].ellipsoid().info().r1() - 40) < 4)
+    True
     """
 def extract_ellipsoid_info(T: numpy.typing.ArrayLike) -> EllipsoidInfo:
     """
@@ -4121,6 +5644,184 @@ def generate_rotations(n_rays: int, seed: int, tol: float) -> list[numpy.ndarray
     >>> max(float(abs(m @ m.T - [[1, 0, 0], [0, 1, 0], [0, 0, 1]]).max()) for m in frames) < 1e-3
     True
     """
+def kfold_cross_validation_using_idw(data_locs: numpy.typing.ArrayLike, data_values: numpy.typing.ArrayLike, covs: list[Covariance], max_distance: float, max_size: int = -1, power_a: float = 3.0, min_partition_size: int = 10, max_partition_size: int = 40, n_partition_size: int = 15, n_threads: int = 0, seed: int = 123451) -> list[list[float]]:
+    """
+    Cross-validation errors of inverse distances in a covariance model, by random partitions.
+
+    Data are standardised first by their mean and population standard deviation, so errors are in units
+    of the standard deviation. Each sample is estimated `n_partition_size` times, each time from a
+    random partition of the samples near it; it never takes part in its own estimate.
+
+    Weights are 1 / (1 - covariance)^`power_a`. Samples whose covariance with the target is 1 or more
+    are left out: with a total sill above 1 these are the nearest. The interpreter lock is released.
+
+    Parameters
+    ----------
+    data_locs : array_like of shape (n, 3)
+        Locations of the samples, in metres or another length unit.
+    data_values : sequence of float of length n
+        Values of the samples, in data units.
+    covs : list of Covariance
+        The model, with a total sill of 1.
+    max_distance : float
+        Candidates of a sample are strictly nearer than this, in length units and whatever the model's
+        anisotropy.
+    max_size : int
+        Candidates are this many nearest samples, the sample itself included; below 1 all within
+        `max_distance`.
+    power_a : float
+        Exponent of the distance.
+    min_partition_size, max_partition_size : int
+        Bounds of the size of a partition, both inclusive; a partition larger than the candidates is all
+        of them. Where the upper bound lies below the lower one, nearly all partitions are.
+    n_partition_size : int
+        Partitions of each sample: how many errors it gets, and not a size.
+    n_threads : int
+        Threads; 0 means all. Each has an engine of its own, so errors repeat only for an equal number.
+    seed : int
+        Seed of the partitions.
+
+    Returns
+    -------
+    list of list of float
+        A row of `n_partition_size` errors for each sample: estimate minus value, with its sign, in
+        standard deviations. NaN throughout for a sample with fewer than three candidates; single ones
+        are NaN where no sample of the partition has weight.
+
+    Raises
+    ------
+    ValueError
+        If lists differ in length, a coordinate is not finite, a count is negative, or
+        `max_partition_size` is `min_partition_size` less 1.
+
+    References
+    ----------
+    Stone, M. (1974). Cross-validatory choice and assessment of statistical predictions. Journal of the
+    Royal Statistical Society B 36, 111-147.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> import numpy as np
+    >>> locations = np.random.RandomState(1).uniform(0, 100, (200, 3))
+    >>> values = np.sin(locations[:, 0] / 20)
+    >>> sphere = gravelox.Ellipsoid(40, 40, 40, 90, 0, 0)
+    >>> errors = gravelox.kfold_cross_validation_using_idw(
+    ...     locations, values, [gravelox.Covariance.spherical(1.0, sphere)], 50.0, n_partition_size=4)
+    >>> np.shape(errors)
+    (200, 4)
+    >>> bool(np.nanmean(np.abs(errors)) < 0.6)
+    True
+    """
+def kfold_cross_validation_using_ok(data_locs: numpy.typing.ArrayLike, data_values: numpy.typing.ArrayLike, covs: list[Covariance], max_distance: float, max_size: int = -1, min_partition_size: int = 10, max_partition_size: int = 40, n_partition_size: int = 15, n_threads: int = 0, seed: int = 123451) -> list[list[float]]:
+    """
+    Cross-validation errors of ordinary kriging, by random partitions.
+
+    Data are standardised first by their mean and population standard deviation, so errors are in units
+    of the standard deviation. Each sample is estimated `n_partition_size` times, each time from a
+    random partition of the samples near it; it never takes part in its own estimate.
+
+    The Lagrange multiplier is part of the estimate, and so of the errors. It has the unit of the sills:
+    let these add up to 1, the variance of the standardised data, and it is about -0.1 in partitions of
+    ten samples under a model of short ranges, and less in larger ones and under long ranges. Sills in
+    the data's own units squared make errors that tell of the sills only. The weights do not depend on
+    the scale of the sills: for the errors of the weighted sum alone let them add up to 1e-4, whatever
+    the unit of the data. The interpreter lock is released.
+
+    Parameters
+    ----------
+    data_locs : array_like of shape (n, 3)
+        Locations of the samples, in metres or another length unit.
+    data_values : sequence of float of length n
+        Values of the samples, in data units.
+    covs : list of Covariance
+        The model, with sills for data of variance 1.
+    max_distance : float
+        Candidates of a sample are strictly nearer than this, in length units and whatever the model's
+        anisotropy.
+    max_size : int
+        Candidates are this many nearest samples, the sample itself included; below 1 all within
+        `max_distance`.
+    min_partition_size, max_partition_size : int
+        Bounds of the size of a partition, both inclusive; a partition larger than the candidates is all
+        of them. Where the upper bound lies below the lower one, nearly all partitions are.
+    n_partition_size : int
+        Partitions of each sample: how many errors it gets, and not a size.
+    n_threads : int
+        Threads; 0 means all. Each has an engine of its own, so errors repeat only for an equal number.
+    seed : int
+        Seed of the partitions.
+
+    Returns
+    -------
+    list of list of float
+        A row of `n_partition_size` errors for each sample: estimate minus value, with its sign, in
+        standard deviations. NaN throughout for a sample with fewer than three candidates.
+
+    Raises
+    ------
+    ValueError
+        If lists differ in length, a coordinate is not finite, a count is negative, or
+        `max_partition_size` is `min_partition_size` less 1.
+
+    References
+    ----------
+    Stone, M. (1974). Cross-validatory choice and assessment of statistical predictions. Journal of the
+    Royal Statistical Society B 36, 111-147.
+    """
+def kfold_cross_validation_using_sk(data_locs: numpy.typing.ArrayLike, data_values: numpy.typing.ArrayLike, covs: list[Covariance], max_distance: float, max_size: int = -1, min_partition_size: int = 10, max_partition_size: int = 40, n_partition_size: int = 15, n_threads: int = 0, seed: int = 123451) -> list[list[float]]:
+    """
+    Cross-validation errors of simple kriging, by random partitions.
+
+    Data are standardised first by their mean and population standard deviation, so errors are in units
+    of the standard deviation. Each sample is estimated `n_partition_size` times, each time from a
+    random partition of the samples near it; it never takes part in its own estimate.
+
+    The mean of the standardised data, 0, is the known mean. The scale of the sills does not matter, nor
+    is there a threshold on weights: each partition of a sample with candidates has an error. The
+    interpreter lock is released.
+
+    Parameters
+    ----------
+    data_locs : array_like of shape (n, 3)
+        Locations of the samples, in metres or another length unit.
+    data_values : sequence of float of length n
+        Values of the samples, in data units.
+    covs : list of Covariance
+        The model.
+    max_distance : float
+        Candidates of a sample are strictly nearer than this, in length units and whatever the model's
+        anisotropy.
+    max_size : int
+        Candidates are this many nearest samples, the sample itself included; below 1 all within
+        `max_distance`.
+    min_partition_size, max_partition_size : int
+        Bounds of the size of a partition, both inclusive; a partition larger than the candidates is all
+        of them. Where the upper bound lies below the lower one, nearly all partitions are.
+    n_partition_size : int
+        Partitions of each sample: how many errors it gets, and not a size.
+    n_threads : int
+        Threads; 0 means all. Each has an engine of its own, so errors repeat only for an equal number.
+    seed : int
+        Seed of the partitions.
+
+    Returns
+    -------
+    list of list of float
+        A row of `n_partition_size` errors for each sample: estimate minus value, with its sign, in
+        standard deviations. NaN throughout for a sample with fewer than three candidates.
+
+    Raises
+    ------
+    ValueError
+        If lists differ in length, a coordinate is not finite, a count is negative, or
+        `max_partition_size` is `min_partition_size` less 1.
+
+    References
+    ----------
+    Stone, M. (1974). Cross-validatory choice and assessment of statistical predictions. Journal of the
+    Royal Statistical Society B 36, 111-147.
+    """
 def lognormal_distribution(m: float, s: float) -> Distribution:
     """
     The lognormal distribution.
@@ -4198,6 +5899,528 @@ def moving_window_estimation(target_locs: numpy.typing.ArrayLike, nei: Neighborh
     >>> hood = gravelox.Neighborhood(locations)
     >>> gravelox.moving_window_estimation([(5, 0, 0)], hood, locations, [1, 3], covs, 2)
     [2.0]
+    """
+def multi_scale_cross_validation_error(data_locs: numpy.typing.ArrayLike, data: numpy.typing.ArrayLike, cov: list[Covariance], range1: float, range2: float, range3: float, scales: numpy.typing.ArrayLike, max_size: int, max_radius: float, max_neis_octant: int, n_threads: int = 0, seed: int = 1231415, dhids: numpy.typing.ArrayLike = [], max_neis_by_dhid: int = -1) -> float:
+    """
+    Mean absolute error of simple kriging from neighbours thinned at several scales.
+
+    Data are standardised first, and 0 is the known mean. A sample is estimated from its neighbours
+    without itself; at each scale they are shuffled and the first in each cell is kept. The absolute
+    errors are averaged over the scales of a sample, then over the samples.
+
+    Parameters
+    ----------
+    data_locs : array_like of shape (n, 3)
+        Locations of the samples, in metres or another length unit.
+    data : sequence of float of length n
+        Values of the samples, in data units.
+    cov : list of Covariance
+        The model.
+    range1, range2, range3 : float
+        Ranges along x, y and z of the ellipsoid that gives the metric of the search and of the cells,
+        in length units.
+    scales : sequence of float
+        Sides of the cells in multiples of the ranges.
+    max_size : int
+        Candidates are this many nearest samples, the sample itself included; 0 and below switch to
+        `max_radius`.
+    max_radius : float
+        Radius of the search in multiples of the ranges, used only without `max_size`. A negative radius
+        counts by its absolute value.
+    max_neis_octant : int
+        Most samples in each octant around the sample (real coordinates); 0 and below: no limit.
+    n_threads : int
+        Threads; 0 means all. Each has an engine of its own, so the error repeats only for an equal
+        number.
+    seed : int
+        Seed of the shuffles.
+    dhids : list of int
+        Drill-hole id of each sample, or an empty list: no limit by hole.
+    max_neis_by_dhid : int
+        Most samples of one hole, counted after the octant limit; 0 and below: no limit.
+
+    Returns
+    -------
+    float
+        The error in standard deviations. Samples with fewer than three neighbours have none; NaN if
+        that is all of them.
+
+    Raises
+    ------
+    ValueError
+        If lists differ in length, a coordinate is not finite, there are no scales, or one is 0 or not
+        finite.
+
+    References
+    ----------
+    Stone, M. (1974). Cross-validatory choice and assessment of statistical predictions. Journal of the
+    Royal Statistical Society B 36, 111-147.
+    """
+def optimize_covariance(covs: list[list[Covariance]], error_function: CovarianceErrorFunction, n_iterations: int = 8000, n_iterations_without_upgrade: int = 8000, n_threads: int = 0, debug: bool = False) -> tuple[list[Covariance], float]:
+    """
+    Search a list of covariance models for the one of the least error, and improve it.
+
+    A search has two phases. In the first each thread rates its share of the candidates and keeps the
+    best. In the second it turns that one by up to 15 degrees and multiplies its ranges by factors from
+    0.1 to 1, again and again, keeping what rates better. So the second phase only shrinks ranges: let
+    the candidates be too large rather than too small.
+
+    Parameters
+    ----------
+    covs : list of list of Covariance
+        The candidates, not empty. The first is rated with all threads, the others with one each.
+    error_function : CovarianceErrorFunction
+        The rating.
+    n_iterations : int
+        Most candidates that a thread rates in the first phase; of the second phase the tries of all
+        threads together, plus one for each thread.
+    n_iterations_without_upgrade : int
+        A thread that has rated this many candidates without a better one leaves the first phase.
+    n_threads : int
+        Threads; 0 means all. The result repeats for an equal number only.
+    debug : bool
+        Whether to print each improvement, on the standard output and the standard error of the process
+        (not on `sys.stdout`).
+
+    Returns
+    -------
+    model : list of Covariance
+        The best model; its sills and kernels are those of a candidate.
+    error : float
+        Its rating by one thread, or by all where none was better than the first candidate's by all.
+
+    Raises
+    ------
+    ValueError
+        If `covs` is empty or a number of iterations negative.
+
+    Notes
+    -----
+    All of the second phase draws from one fixed seed. A nugget is left as it is. With 0 iterations no
+    candidate but the first is rated.
+
+    Examples
+    --------
+    The first phase takes the candidate of range 45, whose error is 15; the second shrinks it:
+
+    >>> import gravelox
+    >>> def off(model, n_threads):
+    ...     return abs(model[0].ellipsoid().info().r1() - 30)
+    >>> spheres = [gravelox.Ellipsoid(r, r, r, 90, 0, 0) for r in (10, 45, 80)]
+    >>> models = [[gravelox.Covariance.spherical(1.0, sphere)] for sphere in spheres]
+    >>> rating = gravelox.CovarianceErrorFunction.Custom(off)
+    >>> model, error = gravelox.optimize_covariance(models, rating, 300, n_threads=1)
+    >>> error < 5
+    True
+    """
+def optimize_covariance_using_idw(data_locs: numpy.typing.ArrayLike, data: numpy.typing.ArrayLike, ellipsoid: Ellipsoid, cov_kernel: Kernel, n_kernels: int, n_covs: int, delta_angle: float, min_str_range: float, max_str_range: float, min_sill: float, max_sill: float, min_range: float, max_range: float, power_a: float, max_distance: float, max_nei_size: int, min_partition_size: int, max_partition_size: int, n_partitions: int, regularization_const: float, n_centers: int, n_rays: int, n_scales: int, n_iterations: int, n_iterations_without_upgrade: int, tol: float, seed: int = 12315, n_threads: int = 0, debug: bool = True) -> tuple[list[Covariance], float]:
+    """
+    Search for the nested covariance model by which samples estimate each other best.
+
+    Candidates are those of `generate_covariances`, rated by `compute_covariance_error_idw` on random
+    groups of samples. The interpreter lock is released.
+
+    A search has two phases. In the first each thread rates its share of the candidates and keeps the
+    best. In the second it turns that one by up to 15 degrees and multiplies its ranges by factors from
+    0.1 to 1, again and again, keeping what rates better. So the second phase only shrinks ranges: let
+    the candidates be too large rather than too small.
+
+    Parameters
+    ----------
+    data_locs : array_like of shape (n, 3)
+        Locations of the samples, in metres or another length unit.
+    data : sequence of float of length n
+        Values of the samples, in data units.
+    ellipsoid : Ellipsoid
+        The anisotropy to start from, in length units.
+    cov_kernel : Kernel
+        The shape of all structures but the nugget.
+    n_kernels : int
+        Structures in a model, beside the nugget.
+    n_covs : int
+        Number of candidates.
+    delta_angle : float
+        Greatest change of azimuth, dip and rake among the candidates, in degrees.
+    min_str_range, max_str_range : float
+        Bounds of the summed lengths of the structures' range vectors, as multiples of the largest range
+        of `ellipsoid`.
+    min_sill, max_sill : float
+        Bounds of the sills before they are scaled to add up to 1.
+    min_range, max_range : float
+        Accepted and not used.
+    power_a : float
+        Exponent of the distance 1 - covariance.
+    max_distance : float
+        Reach of a group from its centre, and distance within which its samples count for each other, in
+        length units.
+    max_nei_size : int
+        Most samples in a group; below 1 there is no limit. Within a group all samples are candidates.
+    min_partition_size, max_partition_size : int
+        Bounds of the size of a partition, both inclusive.
+    n_partitions : int
+        Partitions of each sample: how often it is estimated.
+    regularization_const : float
+        Weight of the penalty on ranges; 0 for none.
+    n_centers : int
+        Groups of samples that a candidate is rated on.
+    n_rays : int
+        Accepted and not used.
+    n_scales : int
+        Accepted and not used.
+    n_iterations : int
+        Most candidates that a thread rates in the first phase; of the second phase the tries of all
+        threads together, plus one for each thread.
+    n_iterations_without_upgrade : int
+        A thread that has rated this many candidates without a better one leaves the first phase.
+    tol : float
+        Accepted and not used.
+    seed : int
+        Seed of candidates, groups and partitions. The tries of the second phase do not depend on it.
+    n_threads : int
+        Threads; 0 means all. The result repeats for an equal number only.
+    debug : bool
+        Whether to print each improvement, on the standard output and the standard error of the process
+        (not on `sys.stdout`).
+
+    Returns
+    -------
+    model : list of Covariance
+        The best model: `n_kernels` structures and a nugget, with sills that add up to 1.
+    error : float
+        Its rating by one thread: mean absolute error in standard deviations, with the penalty.
+
+    Raises
+    ------
+    ValueError
+        If there are no samples, lists differ in length, a coordinate is not finite, a value is NaN, a
+        count is negative, `n_covs` is below 1, or `max_partition_size` is `min_partition_size` less 1.
+
+    References
+    ----------
+    Stone, M. (1974). Cross-validatory choice and assessment of statistical predictions. Journal of the
+    Royal Statistical Society B 36, 111-147.
+    """
+def optimize_ellipsoid(data_locs: numpy.typing.ArrayLike, data: numpy.typing.ArrayLike, cov_kernel: Kernel, min_range: float, max_range: float, parameters: EllipsoidOptimizationParameters = ...) -> tuple[Ellipsoid, float]:
+    """
+    Search for the ellipsoid of samples, with sizes as shares of their extent.
+
+    It is `optimize_ellipsoid_using_idw` with lengths in units of the diagonal of the samples' box, and
+    all samples within reach of each other. The interpreter lock is released.
+
+    A search has two phases. In the first each thread rates its share of the candidates and keeps the
+    best. In the second it turns that one by up to 15 degrees and multiplies its ranges by factors from
+    0.1 to 1, again and again, keeping what rates better. So the second phase only shrinks ranges: let
+    the candidates be too large rather than too small.
+
+    Parameters
+    ----------
+    data_locs : array_like of shape (n, 3)
+        Locations of the samples, in metres or another length unit.
+    data : sequence of float of length n
+        Values of the samples, in data units.
+    cov_kernel : Kernel
+        The shape of the covariance, of sill 1.
+    min_range, max_range : float
+        Bounds of the candidates' sizes, as shares of the diagonal.
+    parameters : EllipsoidOptimizationParameters
+        Settings. What is left out here is not the record that a call without arguments makes: it has
+        `n_rays` 600, `n_scales` 5, `n_iterations` 2000, `n_iterations_without_upgrade` 100 and
+        `regularization_const` 0.001.
+
+    Returns
+    -------
+    ellipsoid : Ellipsoid
+        The best one, with ranges in length units.
+    error : float
+        Its rating by one thread: mean absolute error in standard deviations, with the penalty.
+
+    Raises
+    ------
+    ValueError
+        If there are no samples, lists differ in length, a coordinate is not finite, a value is NaN, a
+        count of the settings is negative, or there is no candidate.
+
+    References
+    ----------
+    Stone, M. (1974). Cross-validatory choice and assessment of statistical predictions. Journal of the
+    Royal Statistical Society B 36, 111-147.
+
+    Examples
+    --------
+    Values that change along y only; the best ellipsoid is longest along x and z:
+
+    >>> import gravelox
+    >>> import numpy as np
+    >>> locations = np.random.RandomState(1).uniform(0, 100, (150, 3))
+    >>> parameters = gravelox.EllipsoidOptimizationParameters(
+    ...     n_rays=20, tol=0.05, n_iterations=60, n_threads=1)
+    >>> ellipsoid, error = gravelox.optimize_ellipsoid(
+    ...     locations, np.sin(locations[:, 1] / 15), gravelox.Kernel.spherical, 0.1, 0.8, parameters)
+    >>> along = ellipsoid.minor_axis()
+    >>> bool(abs(along[1]) > 0.7 * np.linalg.norm(along))
+    True
+    """
+def optimize_ellipsoid_using_idw(data_locs: numpy.typing.ArrayLike, data: numpy.typing.ArrayLike, cov_kernel: Kernel, min_range: float, max_range: float, power_a: float, max_distance: float, max_nei_size: int, min_partition_size: int, max_partition_size: int, n_partitions: int, regularization_const: float, n_centers: int, n_rays: int, n_scales: int, n_iterations: int, n_iterations_without_upgrade: int, tol: float, seed: int = 12315, n_threads: int = 0, debug: bool = True) -> tuple[Ellipsoid, float]:
+    """
+    Search for the ellipsoid by which samples estimate each other best, by inverse distance.
+
+    Candidates are random ellipsoids, see `generate_ellipsoids`, rated by `compute_ellipsoid_error_idw`
+    on random groups of samples. The interpreter lock is released.
+
+    A search has two phases. In the first each thread rates its share of the candidates and keeps the
+    best. In the second it turns that one by up to 15 degrees and multiplies its ranges by factors from
+    0.1 to 1, again and again, keeping what rates better. So the second phase only shrinks ranges: let
+    the candidates be too large rather than too small.
+
+    Parameters
+    ----------
+    data_locs : array_like of shape (n, 3)
+        Locations of the samples, in metres or another length unit.
+    data : sequence of float of length n
+        Values of the samples, in data units.
+    cov_kernel : Kernel
+        The shape of the covariance, of sill 1.
+    min_range, max_range : float
+        Bounds of the candidates' sizes, in length units; see `generate_ellipsoids`.
+    power_a : float
+        Exponent of the distance 1 - covariance.
+    max_distance : float
+        Reach of a group from its centre, and distance within which its samples count for each other, in
+        length units.
+    max_nei_size : int
+        Most samples in a group; below 1 there is no limit. Within a group all samples are candidates.
+    min_partition_size, max_partition_size : int
+        Bounds of the size of a partition, both inclusive.
+    n_partitions : int
+        Partitions of each sample: how often it is estimated.
+    regularization_const : float
+        Weight of the penalty on ranges; 0 for none.
+    n_centers : int
+        Groups of samples that a candidate is rated on.
+    n_rays : int
+        Half the number of directions of the candidates' axes. The number of candidates grows with its
+        square.
+    n_scales : int
+        Half the number of ellipsoids for each frame of axes.
+    n_iterations : int
+        Most candidates that a thread rates in the first phase; of the second phase the tries of all
+        threads together, plus one for each thread.
+    n_iterations_without_upgrade : int
+        A thread that has rated this many candidates without a better one leaves the first phase.
+    tol : float
+        Greatest cosine of two directions that count as at right angles: a tolerance of the candidates'
+        axes, and not of convergence. The number of candidates grows with it.
+    seed : int
+        Seed of candidates, groups and partitions. The tries of the second phase do not depend on it.
+    n_threads : int
+        Threads; 0 means all. The result repeats for an equal number only.
+    debug : bool
+        Whether to print each improvement, on the standard output and the standard error of the process
+        (not on `sys.stdout`).
+
+    Returns
+    -------
+    ellipsoid : Ellipsoid
+        The best one, as the anisotropy of a covariance or of a search.
+    error : float
+        Its rating by one thread: mean absolute error in standard deviations, with the penalty.
+
+    Raises
+    ------
+    ValueError
+        If there are no samples, lists differ in length, a coordinate is not finite, a value is NaN, a
+        count is negative, there is no candidate, or `max_partition_size` is `min_partition_size` less
+        1.
+
+    References
+    ----------
+    Stone, M. (1974). Cross-validatory choice and assessment of statistical predictions. Journal of the
+    Royal Statistical Society B 36, 111-147.
+    """
+def optimize_ellipsoid_using_kfold(folds: list[tuple[list[numpy.ndarray[numpy.float64[3, 1]]], list[float]]], cov_type: str, r1_max: float, r2_max: float, r3_max: float, regularization_const: float = 0.0, cauchy_loss: float = 0.0, min_partition_size: int = 15, max_partition_size: int = 25, n_partitions: int = 7, n_iterations: int = 1000, seed: int = 123145, n_threads: int = 0, debug: bool = False) -> Ellipsoid:
+    """
+    Fit an ellipsoid by which random parts of the samples estimate the rest, by a gradient search.
+
+    Each group is cut `n_partitions` times into samples that estimate, by inverse distance to the power
+    3 in the variogram's metric, and samples that are estimated. The sill, three ranges and three angles
+    that make the squares of damped errors least are sought; the mean error of a partition counts as one
+    more. Derivatives are automatic, the solver is that of Levenberg and Marquardt. A fit is local: it
+    starts from axes along the grid. The interpreter lock is released.
+
+    Parameters
+    ----------
+    folds : list of tuple of (array_like of shape (n, 3), sequence of float of length n)
+        Groups of samples, locations in length units and values in data units, as `create_folds` makes
+        them.
+    cov_type : str
+        The covariance: "spherical", "gaussian" or "exponential".
+    r1_max, r2_max, r3_max : float
+        Greatest ranges along x, y and z before the fit turns them, in length units. A fit starts from
+        half of them and stays above a thousandth.
+    regularization_const : float
+        Weight of a prior that prefers short ranges to long ones; 0 for none.
+    cauchy_loss : float
+        Scale of a Cauchy loss on errors, which bounds the pull of outliers; below 1e-10 there is none.
+    min_partition_size, max_partition_size : int
+        Bounds of the number of samples that estimate, the upper one exclusive and not equal to the
+        lower one. Where a group has fewer, all but two of it estimate.
+    n_partitions : int
+        Partitions of each group.
+    n_iterations : int
+        Most iterations of the solver.
+    seed : int
+        Seed of the partitions.
+    n_threads : int
+        Threads; 0 means all. The result does not depend on it.
+    debug : bool
+        Whether to print iterations on the standard output and a report on the standard error of the
+        process (not on `sys.stdout`).
+
+    Returns
+    -------
+    Ellipsoid
+        The fit, or what it reached after `n_iterations`; nothing tells of a fit that failed. Where
+        values are all equal it is the start.
+
+    Raises
+    ------
+    ValueError
+        If `folds` are empty, the locations and values of one differ in length, a coordinate is not
+        finite, a partition has no sample that estimates, `cov_type` is unknown, a greatest range is not
+        above 0, a count is negative, or the two partition sizes are equal.
+
+    Notes
+    -----
+    Angles of the fit are turns about the coordinate axes. An ellipsoid whose axes lie along these comes
+    back as it was fitted. One that lies askew does not: turns and ranges are multiplied the other way
+    round than in the fit, so that axes and ranges become others, and at 45 degrees hardly resemble it.
+    There take a search, or turn the samples until their structure lies along the coordinates, and rate
+    the result with `compute_ellipsoid_error_idw`.
+
+    References
+    ----------
+    Marquardt, D. W. (1963). An algorithm for least-squares estimation of nonlinear parameters. Journal
+    of the Society for Industrial and Applied Mathematics 11, 431-441.
+    """
+def optimize_local_ellipsoids(data_locs: numpy.typing.ArrayLike, data: numpy.typing.ArrayLike, cov_kernel: Kernel, min_range: float, max_range: float, n_centers: int, center_max_size: float, center_size: int, ellipsoid_opt_params: EllipsoidOptimizationParameters = ...) -> LocalCovariances:
+    """
+    Fit an ellipsoid to each of several groups of samples by a search of candidates.
+
+    Groups are those of `create_folds` with a radius of `center_max_size` times the diagonal of the
+    samples' box divided by `n_centers` (by the number itself, and not by its cube root). Each is
+    searched as by `optimize_ellipsoid`, with the same seed. The interpreter lock is released.
+
+    Parameters
+    ----------
+    data_locs : array_like of shape (n, 3)
+        Locations of the samples, in metres or another length unit.
+    data : sequence of float of length n
+        Values of the samples, in data units.
+    cov_kernel : Kernel
+        The shape of the covariances, of sill 1.
+    min_range, max_range : float
+        Bounds of the candidates' sizes, as shares of the diagonal of a group's own box.
+    n_centers : int
+        Number of groups, at least 1.
+    center_max_size : float
+        Scales the radius of a group, see above.
+    center_size : int
+        Most samples in a group; below 1 there is no limit but the radius.
+    ellipsoid_opt_params : EllipsoidOptimizationParameters
+        Settings. What is left out here is not the record that a call without arguments makes: it has
+        `n_rays` 600, `n_scales` 5, `n_iterations` 2000, `n_iterations_without_upgrade` 100 and
+        `regularization_const` 0.001.
+
+    Returns
+    -------
+    LocalCovariances
+        For each group the mean of its locations, a model of one structure of sill 1, whose label reads
+        "spherical" whatever the kernel, and the error as the search rated it. Two groups may share a
+        centre.
+
+    Raises
+    ------
+    ValueError
+        If there are no samples, lists differ in length, a coordinate is not finite, a value is NaN,
+        `n_centers` is below 1, or a count of the settings is negative.
+
+    References
+    ----------
+    Stone, M. (1974). Cross-validatory choice and assessment of statistical predictions. Journal of the
+    Royal Statistical Society B 36, 111-147.
+    """
+def optimize_local_ellipsoids_using_lbfgs(data_locs: numpy.typing.ArrayLike, data: numpy.typing.ArrayLike, cov_type: str, n_centers: int, n_local_centers: int, center_max_size: float, center_size: int, local_center_size: int, max_local_range: float, ellipsoid_opt_params: EllipsoidLBFGSParameters) -> LocalCovariances:
+    """
+    Fit an ellipsoid to each of several groups of samples by a gradient search.
+
+    Groups are those of `create_folds` with a radius of `center_max_size` times the diagonal of the
+    samples' box divided by `n_centers` (by the number itself, and not by its cube root). Each is
+    cut into groups in turn, of the same radius, which `optimize_ellipsoid_using_kfold` fits; its prior
+    weighs `regularization_const` for each partition. The solver is a trust-region one, whatever the
+    name. The interpreter lock is released.
+
+    Parameters
+    ----------
+    data_locs : array_like of shape (n, 3)
+        Locations of the samples, in metres or another length unit.
+    data : sequence of float of length n
+        Values of the samples, in data units.
+    cov_type : str
+        The covariance: "spherical", "gaussian" or "exponential".
+    n_centers : int
+        Number of groups, at least 1.
+    n_local_centers : int
+        Groups within a group; for 0 it stays whole.
+    center_max_size : float
+        Scales the radius of a group, see above.
+    center_size : int
+        Most samples in a group; below 1 there is no limit but the radius.
+    local_center_size : int
+        Most samples in a group of a group, and most candidates of a sample where results are rated.
+    max_local_range : float
+        Greatest range of an ellipsoid, in length units.
+    ellipsoid_opt_params : EllipsoidLBFGSParameters
+        Settings.
+
+    Returns
+    -------
+    LocalCovariances
+        For each group the mean of its locations, a model of one structure of sill 1, and an error: its
+        rating by `compute_covariance_error_idw` on all groups, not its own alone. The errors, each with
+        1e-4 added, are divided by their sum and add up to 1.
+
+    Raises
+    ------
+    ValueError
+        If there are no samples, lists differ in length, a coordinate is not finite, a value is NaN,
+        `cov_type` is unknown, `n_centers` is below 1, a count is negative, `max_local_range` is not
+        above 0, the two partition sizes are equal, or a group within a group holds too few samples for
+        one to estimate another.
+
+    Notes
+    -----
+    Angles of the fit are turns about the coordinate axes. An ellipsoid whose axes lie along these comes
+    back as it was fitted. One that lies askew does not: turns and ranges are multiplied the other way
+    round than in the fit, so that axes and ranges become others, and at 45 degrees hardly resemble it.
+    There take a search, or turn the samples until their structure lies along the coordinates, and rate
+    the result with `compute_ellipsoid_error_idw`.
+
+    References
+    ----------
+    Marquardt, D. W. (1963). An algorithm for least-squares estimation of nonlinear parameters. Journal
+    of the Society for Industrial and Applied Mathematics 11, 431-441.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> import numpy as np
+    >>> locations = np.random.RandomState(1).uniform(0, 100, (300, 3))
+    >>> values = np.sin(locations[:, 1] / 15)
+    >>> parameters = gravelox.EllipsoidLBFGSParameters(n_partitions=2, n_iterations=20, n_threads=1)
+    >>> local = gravelox.optimize_local_ellipsoids_using_lbfgs(
+    ...     locations, values, "spherical", 3, 2, 1.0, 100, 60, 80.0, parameters)
+    >>> len(local.centers), round(sum(local.errors), 6)
+    (3, 1.0)
     """
 def optimize_rotation(locations: numpy.typing.ArrayLike, sample_size: int = 30000, n_iterations: int = 20000, n_threads: int = 0, seed: int = 12356, use_fixed_samples: bool = True, n_rays: int = 600) -> tuple[BoundingBox, Ellipsoid]:
     """

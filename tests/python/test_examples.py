@@ -161,6 +161,18 @@ def test_a_model_of_stripes_is_found(tmp_path, rng):
     assert (tmp_path / "models.png").read_bytes()[:4] == b"\x89PNG"
 
 
+def test_related_variables_are_simulated(tmp_path):
+    command = [sys.executable, EXAMPLES / "multivariate.py", "--out", tmp_path]
+    ended = subprocess.run(command, capture_output=True, text=True, timeout=120, check=True)
+    missed = re.search(r"missed by (\S+) standard deviations", ended.stdout)
+    differences = re.search(r"^greatest difference +(\S+) +(\S+)$", ended.stdout, re.MULTILINE)
+    assert missed
+    assert differences
+    assert float(missed[1]) < 1e-6
+    assert max(map(float, differences.groups())) < 0.12
+    assert (tmp_path / "multivariate.png").read_bytes()[:4] == b"\x89PNG"
+
+
 def test_bad_files_end_the_examples_with_one_line(tmp_path):
     path = tmp_path / "samples.csv"
     on_line = "x,y,value\n" + "".join(f"{i},0,{i % 3}\n" for i in range(20))

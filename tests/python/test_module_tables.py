@@ -273,7 +273,7 @@ REFUSED += [
     (r"X and .* must have the same number of samples\.$", Fitter(2).fit, (WIDE, [1] * 3)),
     (r"x: .*nan at \[1, 0\]", Fitter(2).fit, (HOLED,)),
     ("x: .*at least 1 row.* 4 x 0", Fitter(2).fit, (HOLED[:, :0],)),
-    (r"weights: .*nan at \[1", Fitter(1).fit, (WIDE, HOLED[:2, 0])),
+    ("weights: .*nan at position 1", Fitter(1).fit, (WIDE, HOLED[:2, 0])),
     (r"Input data Z has incorrect number of features\.$", SCORES.forward, (HOLED,)),
     (r"Input data SCT_Z has incorrect number of features\.$", SCORES.backward, (HOLED,)),
     (r"x: .*nan at \[0, 1\]", SCORES.forward, (HOLED.T,)),

@@ -171,6 +171,19 @@ def test_points_and_tables(data):
     assert_array_equal(PPMT(data, 0).forward(PPMT(data, -1).backward(data)), data)
 
 
+def test_fits_do_not_depend_on_the_default_threads(rng):
+    samples = rng.normal(size=(9000, 14)) + rng.integers(0, 3, (9000, 1))
+    cov = gravelox.Covariance.gaussian(1, gravelox.Rotation(0, 0))
+
+    def fit(n_components, n_threads):  # the transform sets the number of threads of later regions
+        gravelox.FIM([(0, 0, 0), (9, 9, 9)], cov, 1, 8, n_threads)
+        model = GMMFitter(n_components, 3, 0).fit(samples)
+        return np.concatenate([model.means, *model.covariances])
+
+    for n_components in (1, 3):
+        assert_array_equal(fit(n_components, 1), fit(n_components, 4))
+
+
 def test_rotations(rng):
     for n in (1, 2, 5):
         for make in (gravelox.create_random_rotation, gravelox.create_random_orthogonal_matrix):
