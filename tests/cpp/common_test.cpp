@@ -15,6 +15,7 @@
 
 #include "common/parallel_for.hpp"
 #include "common/random.hpp"
+#include "common/robust_power.hpp"
 
 namespace gravelox {
 namespace {
@@ -119,6 +120,17 @@ TEST_F(RandomTest, ShuffleGoesUpwards) {
   shuffle(values, engine);
   EXPECT_EQ(values, (std::vector<int>{7, 11, 9, 4, 6, 1, 2, 0, 8, 3, 10, 5}));
   EXPECT_EQ(engine(), 160432444U);
+}
+
+TEST(RobustPower, GoesOnAsARootBeyondOne) {
+  for (const double x : {-3.0, -1.0, -0.4, 0.0, 1.0, 2.25}) {
+    const double size = std::abs(x);
+    const double expected = size <= 1.0 ? size : 2.0 * std::sqrt(size) - 1.0;
+    EXPECT_DOUBLE_EQ(robust_power(x, 0.5), std::copysign(expected, x));
+    const jet at = robust_power(jet(x, 2), 0.5);
+    EXPECT_DOUBLE_EQ(at.a, robust_power(x, 0.5));
+    EXPECT_DOUBLE_EQ(at.v[2], size <= 1.0 ? 1.0 : 1.0 / std::sqrt(size));
+  }
 }
 
 }  // namespace

@@ -128,16 +128,16 @@ def test_models_of_exact_maps_come_back(kernel, angles):
 
 def test_local_models(samples, capfd):
     hull = variography.extreme_points(samples[0], 300, simulation.words(7, 1)[0])
-    radius = np.linalg.norm(np.ptp(hull, axis=0)) / 3 * 1.1
+    radius = np.linalg.norm(np.ptp(hull, axis=0)) / 3 * 1.3
     parts, fit = optimization.folds(*samples, radius, 20, 3, 7), (3, 6, 2, 50, 7)
-    rest = BELL, 0.1, 0.9, 3, 1.1, 20, Options(n_rays=9, n_iterations=9, tol=0.2, seed=7)
+    rest = BELL, 0.1, 0.9, 3, 1.3, 20, Options(n_rays=9, n_iterations=9, tol=0.2, seed=7)
     local = gravelox.optimize_local_ellipsoids(*samples, *rest)
     searched = [gravelox.optimize_ellipsoid(*part, *rest[:3], rest[-1]) for part in parts]
     groups = [optimization.folds(*part, radius, 12, 2, 7) for part in parts]
     fitted = [fit_folds(g, "gaussian", 9, 9, 9, 0.02 * len(g), 0.5, *fit) for g in groups]
     rest = parts, radius, 12, 3, 3, 6, 2, 0.01, 0, 7
     rated = np.array([rate([Covariance.gaussian(1, metric)], *rest) for metric in fitted]) + 1e-4
-    rest = "gaussian", 3, 2, 1.1, 20, 12, 9.0, gravelox.EllipsoidLBFGSParameters(0.01, 0.5, *fit)
+    rest = "gaussian", 3, 2, 1.3, 20, 12, 9.0, gravelox.EllipsoidLBFGSParameters(0.01, 0.5, *fit)
     by_fit = gravelox.optimize_local_ellipsoids_using_lbfgs(*samples, *rest)
     for found, metrics, errors in ((local, *zip(*searched)), (by_fit, fitted, rated / rated.sum())):
         assert_allclose(found.centers, [locs.mean(axis=0) for locs, _ in parts], rtol=1e-12)
