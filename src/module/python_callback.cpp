@@ -43,6 +43,8 @@ callback_release::callback_release() : mutex_(turn_mutex) {
   without_gil_.emplace();
 }
 
+// A lock that cannot be taken again ends the process, as it should.
+// NOLINTNEXTLINE(bugprone-exception-escape)
 callback_release::~callback_release() {
   without_gil_.reset();
   if (mutex_ != nullptr) take_turn(*mutex_);

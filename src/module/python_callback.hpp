@@ -39,7 +39,7 @@ class callback_turn {
 class callback_release {
  public:
   callback_release();
-  ~callback_release();
+  ~callback_release();  // NOLINT(bugprone-exception-escape)
   callback_release(const callback_release&) = delete;
   callback_release& operator=(const callback_release&) = delete;
 

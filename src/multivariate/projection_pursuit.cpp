@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "multivariate/projection_pursuit.hpp"
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <stdexcept>
@@ -33,13 +34,18 @@ values row_of(const MatrixXd& data, std::size_t coordinate) {
   return {row.begin(), row.end()};
 }
 
-/// Calls body(point, scratch) for each column of the points, in parallel; the scratch is as long as
-/// a point and the thread's own.
+/// Calls body(block, scratch) for blocks of columns of the points, in parallel; the scratch is as
+/// long as a point and the thread's own. Blocks are as long as pays for a step's tables, which go
+/// through the cache once for each of them.
 template <typename Body>
-void for_each_point(MatrixXd& points, int n_threads, const Body& body) {
+void for_each_block(MatrixXd& points, int n_threads, const Body& body) {
+  constexpr Index block_size = 128;
+  const Index n_blocks = (points.cols() + block_size - 1) / block_size;
   std::vector<VectorXd> scratch(n_thread_slots(n_threads), VectorXd(points.rows()));
-  parallel_for(to_size(points.cols()), n_threads, [&](std::size_t i, int thread_number) {
-    body(points.col(to_index(i)), scratch[to_size(thread_number)]);
+  parallel_for(to_size(n_blocks), n_threads, [&](std::size_t i, int thread_number) {
+    const Index first = to_index(i) * block_size;
+    const Index n = std::min(block_size, points.cols() - first);
+    body(points.middleCols(first, n), scratch[to_size(thread_number)]);
   });
 }
 
@@ -51,8 +57,7 @@ class projection_index {
     for (int i = 1; i <= n_; ++i) normal_.push_back(normal.quantile(probability(i)));
   }
 
-  double operator()(const values& coordinate) const {
-    const real_dist dist = data_distribution(coordinate);
+  double operator()(const real_dist& dist) const {
     double sum = 0.0;
     for (int i = 1; i <= n_; ++i) {
       sum += std::abs(dist.quantile(probability(i)) - normal_[to_size(i - 1)]);
@@ -87,14 +92,14 @@ struct PPMT::Step {
       : mean(data.rows()), std_dev(data.rows()) {
     standardise(data, n_threads);
     draw_rotation(data, prob_random_rotation, seed);
-    for_each_point(data, n_threads, [&](Eigen::Ref<VectorXd> point, VectorXd& scratch) {
-      rotate(rotation, point, scratch);
+    for_each_block(data, n_threads, [&](Eigen::Ref<MatrixXd> block, VectorXd& scratch) {
+      for (auto point : block.colwise()) rotate(rotation, point, scratch);
     });
     choose(data, n_threads, index);
   }
 
   void forward(Eigen::Ref<VectorXd> point, VectorXd& scratch) const {
-    for (Index j = 0; j < point.size(); ++j) point[j] = (point[j] - mean[j]) / std_dev[j];
+    standardise_point(point);
     rotate(rotation, point, scratch);
     point[chosen] = transform->forward(point[chosen]);
   }
@@ -114,6 +119,10 @@ struct PPMT::Step {
   std::shared_ptr<const DistributionTransform> transform;
 
  private:
+  void standardise_point(Eigen::Ref<VectorXd> point) const {
+    for (Index j = 0; j < point.size(); ++j) point[j] = (point[j] - mean[j]) / std_dev[j];
+  }
+
   void standardise(MatrixXd& data, int n_threads) {
     const auto d = to_size(data.rows());
     parallel_for(d, n_threads, [&](std::size_t j, int /*thread_number*/) {
@@ -125,8 +134,8 @@ struct PPMT::Step {
                text_of("a deviation of ", scale.deviation, " along one axis"));
       }
     });
-    for_each_point(data, n_threads, [&](Eigen::Ref<VectorXd> point, VectorXd& /*scratch*/) {
-      for (Index j = 0; j < point.size(); ++j) point[j] = (point[j] - mean[j]) / std_dev[j];
+    for_each_block(data, n_threads, [&](Eigen::Ref<MatrixXd> block, VectorXd& /*scratch*/) {
+      for (auto point : block.colwise()) standardise_point(point);
     });
   }
 
@@ -144,9 +153,12 @@ struct PPMT::Step {
   }
 
   void choose(MatrixXd& data, int n_threads, const projection_index& index) {
-    values indices(to_size(data.rows()));
-    parallel_for(indices.size(), n_threads, [&](std::size_t j, int /*thread_number*/) {
-      indices[j] = index(row_of(data, j));
+    const auto d = to_size(data.rows());
+    std::vector<real_dist> dists(d);
+    values indices(d);
+    parallel_for(d, n_threads, [&](std::size_t j, int /*thread_number*/) {
+      dists[j] = data_distribution(row_of(data, j));
+      indices[j] = index(dists[j]);
     });
     double greatest = 0.0;
     for (std::size_t j = 0; j < indices.size(); ++j) {
@@ -156,7 +168,7 @@ struct PPMT::Step {
       }
     }
     const values coordinate = row_of(data, to_size(chosen));
-    transform = std::make_shared<const DistributionTransform>(data_distribution(coordinate),
+    transform = std::make_shared<const DistributionTransform>(dists[to_size(chosen)],
                                                               gaussian_distribution());
     const values scores = transform->forward(coordinate, n_threads);
     data.row(chosen) = Eigen::Map<const Eigen::RowVectorXd>(scores.data(), data.cols());
@@ -196,21 +208,23 @@ void PPMT::check_points(const char* name, const Eigen::Ref<const MatrixXd>& poin
   if (points.cols() > 0) check_matrix(name, points);
 }
 
-void PPMT::carry_forward(Eigen::Ref<VectorXd> point, VectorXd& scratch) const {
-  for (const auto& step : steps_) step->forward(point, scratch);
+void PPMT::carry_forward(Eigen::Ref<MatrixXd> points, VectorXd& scratch) const {
+  for (const auto& step : steps_) {
+    for (auto point : points.colwise()) step->forward(point, scratch);
+  }
 }
 
-void PPMT::carry_backward(Eigen::Ref<VectorXd> point, VectorXd& scratch) const {
+void PPMT::carry_backward(Eigen::Ref<MatrixXd> points, VectorXd& scratch) const {
   for (auto step = steps_.rbegin(); step != steps_.rend(); ++step) {
-    (*step)->backward(point, scratch);
+    for (auto point : points.colwise()) (*step)->backward(point, scratch);
   }
 }
 
 MatrixXd PPMT::forward(const MatrixXd& data, int n_threads) const {
   check_points("data", data);
   MatrixXd points = data;
-  for_each_point(points, n_threads, [&](Eigen::Ref<VectorXd> point, VectorXd& scratch) {
-    carry_forward(point, scratch);
+  for_each_block(points, n_threads, [&](Eigen::Ref<MatrixXd> block, VectorXd& scratch) {
+    carry_forward(block, scratch);
   });
   return points;
 }
@@ -218,15 +232,15 @@ MatrixXd PPMT::forward(const MatrixXd& data, int n_threads) const {
 MatrixXd PPMT::backward(const MatrixXd& data, int n_threads) const {
   check_points("data", data);
   MatrixXd points = data;
-  for_each_point(points, n_threads, [&](Eigen::Ref<VectorXd> point, VectorXd& scratch) {
-    carry_backward(point, scratch);
+  for_each_block(points, n_threads, [&](Eigen::Ref<MatrixXd> block, VectorXd& scratch) {
+    carry_backward(block, scratch);
   });
   return points;
 }
 
 VectorXd PPMT::forward(const VectorXd& u) const {
   check_points("u", u);
-  VectorXd point = u;
+  MatrixXd point = u;
   VectorXd scratch(u.size());
   carry_forward(point, scratch);
   return point;
@@ -234,7 +248,7 @@ VectorXd PPMT::forward(const VectorXd& u) const {
 
 VectorXd PPMT::backward(const VectorXd& u) const {
   check_points("u", u);
-  VectorXd point = u;
+  MatrixXd point = u;
   VectorXd scratch(u.size());
   carry_backward(point, scratch);
   return point;

@@ -43,9 +43,9 @@ class PPMT {
  private:
   struct Step;
 
-  /// One point through all steps and back, in place.
-  void carry_forward(Eigen::Ref<Eigen::VectorXd> point, Eigen::VectorXd& scratch) const;
-  void carry_backward(Eigen::Ref<Eigen::VectorXd> point, Eigen::VectorXd& scratch) const;
+  /// Points (columns) through all steps and back, in place.
+  void carry_forward(Eigen::Ref<Eigen::MatrixXd> points, Eigen::VectorXd& scratch) const;
+  void carry_backward(Eigen::Ref<Eigen::MatrixXd> points, Eigen::VectorXd& scratch) const;
 
   void check_points(const char* name, const Eigen::Ref<const Eigen::MatrixXd>& points) const;
 
