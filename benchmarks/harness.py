@@ -73,8 +73,8 @@ class Bench:
         times = least_times([(ours(), other()) for _ in range(self.repetitions)])
         return {**times, "ratio": ratio(times["seconds"], times["other_seconds"])}
 
-    def kernel(self, name):
-        """A timer of one item of a benchmark of the kernels' program."""
+    def kernel_entry(self, name):
+        """A call that gives what a benchmark of the kernels' program reports."""
         if self.kernels is None:
             raise Skipped("it needs --kernels")
         command = [self.kernels, f"--benchmark_filter=^{name}/", "--benchmark_format=json"]
@@ -82,9 +82,14 @@ class Bench:
         def run():
             output = subprocess.run(command, check=True, stdout=subprocess.PIPE).stdout
             (entry,) = json.loads(output)["benchmarks"]
-            return 1.0 / entry["items_per_second"]
+            return entry
 
         return run
+
+    def kernel(self, name):
+        """A timer of one item of a benchmark of the kernels' program."""
+        run = self.kernel_entry(name)
+        return lambda: 1.0 / run()["items_per_second"]
 
 
 def least_times(rounds):

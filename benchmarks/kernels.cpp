@@ -13,21 +13,33 @@
 #include <Eigen/Core>
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <cmath>
+#include <cstddef>
 #include <cstdint>
 #include <ctime>
 #include <memory>
 #include <numbers>
+#include <numeric>
+#include <span>
 #include <vector>
 
 #include "common/integer.hpp"
 #include "common/location.hpp"
 #include "common/random.hpp"
+#include "estimation/folds.hpp"
 #include "estimation/inverse_distance.hpp"
 #include "estimation/kriging.hpp"
+#include "estimation/random_partitions.hpp"
+#include "optimization/covariance_error.hpp"
+#include "optimization/covariance_search.hpp"
+#include "optimization/ellipsoid_search.hpp"
+#include "optimization/search_rating.hpp"
+#include "spatial/bounding_box.hpp"
 #include "spatial/ellipsoid.hpp"
 #include "spatial/neighbor_buffer.hpp"
 #include "spatial/neighborhood.hpp"
+#include "spatial/rotation_sampling.hpp"
 #include "spatial/sphere_sampling.hpp"
 #include "variography/cov_computer.hpp"
 #include "variography/covariance.hpp"
@@ -35,6 +47,9 @@
 namespace {
 
 using namespace gravelox;
+
+/// Blocks of memory that the program has asked for.
+std::atomic<std::int64_t> n_allocations = 0;
 
 constexpr std::uint32_t sample_seed = 1;
 constexpr std::uint32_t target_seed = 2;
@@ -82,55 +97,85 @@ struct kriging_case {
   }
 };
 
-struct ordinary_system {
+struct kriging_system {
   Eigen::MatrixXd a;
   Eigen::VectorXd b;
 };
 
-ordinary_system ordinary_system_of(const kriging_case& run, std::size_t index) {
-  const std::vector<std::size_t>& neis = run.neighbors[index];
-  const Eigen::Index n = to_index(neis.size());
-  ordinary_system system{Eigen::MatrixXd::Ones(n + 1, n + 1), Eigen::VectorXd::Ones(n + 1)};
-  system.a(n, n) = 0.0;
+/// The system of a target and these samples, bordered for ordinary kriging.
+template <typename Id>
+kriging_system system_of(const cov_computer& cov, const location_list& samples,
+                         std::span<const Id> members, const location& target, bool is_bordered) {
+  const Eigen::Index n = to_index(members.size());
+  const Eigen::Index order = is_bordered ? n + 1 : n;
+  kriging_system system{Eigen::MatrixXd::Ones(order, order), Eigen::VectorXd::Ones(order)};
+  if (is_bordered) system.a(n, n) = 0.0;
   for (Eigen::Index i = 0; i < n; ++i) {
-    const location& sample = run.samples[neis[static_cast<std::size_t>(i)]];
-    system.b(i) = run.cov(sample - run.targets[index]);
+    const location& sample = samples[members[static_cast<std::size_t>(i)]];
+    system.b(i) = cov(sample - target);
     for (Eigen::Index j = 0; j < n; ++j) {
-      system.a(i, j) = run.cov(sample - run.samples[neis[static_cast<std::size_t>(j)]]);
+      system.a(i, j) = cov(sample - samples[members[static_cast<std::size_t>(j)]]);
     }
   }
   return system;
 }
 
-/// The floor of ordinary kriging: each system factored and solved, and nothing else.
+/// The floor of kriging: each system factored and solved, and nothing else.
 ///
 /// A kriging run has its system in the cache when it solves it. Here a few systems at a time are
 /// copied to the same place before the clock starts: they are in the cache too, and are still all
 /// different, so that no branch predictor learns their pivots.
-void ldlt(benchmark::State& state) {
+void solve_all(benchmark::State& state, const std::vector<kriging_system>& systems) {
   constexpr std::size_t at_once = 32;
-  static_assert(n_targets % at_once == 0);
-  const kriging_case run;
-  std::vector<ordinary_system> systems;
-  for (std::size_t i = 0; i < n_targets; ++i) systems.push_back(ordinary_system_of(run, i));
-
-  std::vector<ordinary_system> block(at_once);
+  const std::size_t n = systems.size() / at_once * at_once;
+  std::vector<kriging_system> block(at_once);
   Eigen::LDLT<Eigen::MatrixXd> decomposition;
   Eigen::VectorXd x;
   std::size_t first = 0;
   for (auto _ : state) {
     std::copy_n(systems.begin() + static_cast<std::ptrdiff_t>(first), at_once, block.begin());
     const std::clock_t start = std::clock();
-    for (const ordinary_system& system : block) {
+    for (const kriging_system& system : block) {
       decomposition.compute(system.a);
       x = decomposition.solve(system.b);
       benchmark::DoNotOptimize(x.data());
       benchmark::ClobberMemory();
     }
     state.SetIterationTime(static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC);
-    first = (first + at_once) % n_targets;
+    first = (first + at_once) % n;
   }
   state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(at_once));
+}
+
+void ldlt(benchmark::State& state) {
+  const kriging_case run;
+  std::vector<kriging_system> systems;
+  for (std::size_t i = 0; i < n_targets; ++i) {
+    systems.push_back(
+        system_of(run.cov, run.samples, std::span(run.neighbors[i]), run.targets[i], true));
+  }
+  solve_all(state, systems);
+}
+
+/// The systems of cross-validation by kriging with its defaults: those of the random partitions of
+/// 500 samples. The argument is 0 for simple kriging and 1 for ordinary kriging.
+void partition_ldlt(benchmark::State& state) {
+  const location_list samples = uniform_points(500, sample_seed);
+  const partition_sampler sampler(samples, 2.0 * side, -1, {10, 40, 15}, "n_partition_size");
+  random_engine master(123451);
+  random_engine engine(master());
+  const cov_computer cov = create_cov_computer(model());
+  partition_sampler::scratch scratch;
+  partition_list partitions;
+  std::vector<kriging_system> systems;
+  for (std::size_t i = 0; i < samples.size(); ++i) {
+    partitions.clear();
+    sampler.draw(i, engine, scratch, partitions);
+    for (std::size_t k = 0; k < partitions.size(); ++k) {
+      systems.push_back(system_of(cov, samples, partitions[k], samples[i], state.range(0) == 1));
+    }
+  }
+  solve_all(state, systems);
 }
 
 /// The covariances of one system: 32 with the target and 496 among the samples.
@@ -271,6 +316,169 @@ void pairs(benchmark::State& state) {
                           static_cast<std::int64_t>(n_points * (n_points - 1) / 2));
 }
 
+/// The first argument of a benchmark.
+std::size_t size_argument(const benchmark::State& state) {
+  return static_cast<std::size_t>(state.range(0));
+}
+
+/// The samples of a search for an ellipsoid with the defaults, and what it does before its first
+/// try.
+struct search_case {
+  explicit search_case(std::size_t n) : samples(uniform_points(n, sample_seed)) {}
+
+  std::vector<Ellipsoid> candidates() const {
+    return generate_ellipsoids(0.1 * diagonal, diagonal, defaults.n_rays, defaults.n_scales,
+                               defaults.seed, defaults.tol);
+  }
+
+  idw_rating_parameters rating_parameters() const {
+    return {diagonal,
+            to_int(samples.size() + 2),
+            defaults.power_a,
+            {defaults.min_partition_size, defaults.max_partition_size, defaults.n_partitions},
+            defaults.regularization_const};
+  }
+
+  idw_rating rating(int n_threads) const {
+    return create_search_rating(samples, values, defaults.max_nei_size, defaults.n_centers,
+                                rating_parameters(), defaults.seed, n_threads);
+  }
+
+  ellipsoid_optimization_parameters defaults;
+  location_list samples;
+  std::vector<double> values = values_at(samples);
+  double diagonal = extent(samples).norm();
+};
+
+/// That search on the wall clock; an item is a try, a rating of one model. The arguments are the
+/// numbers of samples and of threads (0: all).
+void search(benchmark::State& state) {
+  const search_case run(size_argument(state));
+  const auto n_threads = static_cast<int>(state.range(1));
+  const idw_rating rating = run.rating(n_threads);
+  std::vector<std::vector<Covariance>> models;
+  for (const Ellipsoid& candidate : run.candidates()) {
+    models.push_back({{covariance_type::spherical, 1.0, candidate}});
+  }
+  std::atomic<std::int64_t> n_ratings = 0;
+  const CovarianceErrorFunction counted = [&](const std::vector<Covariance>& model, int n) {
+    ++n_ratings;
+    return rating(model, n);
+  };
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(optimize_covariance(models, counted, run.defaults.n_iterations,
+                                                 run.defaults.n_iterations_without_upgrade,
+                                                 n_threads, false));
+  }
+  // The rating of the model that a search starts from is no try.
+  const std::int64_t n_tries = n_ratings - static_cast<std::int64_t>(state.iterations());
+  state.SetItemsProcessed(n_tries);
+  state.counters["tries"] = static_cast<double>(n_tries) / static_cast<double>(state.iterations());
+}
+
+void search_candidates(benchmark::State& state) {
+  const search_case run(500);
+  for (auto _ : state) benchmark::DoNotOptimize(run.candidates().data());
+  state.SetItemsProcessed(state.iterations());
+}
+
+/// The folds and the random partitions of their samples. The argument is the number of samples.
+void search_partitions(benchmark::State& state) {
+  const search_case run(size_argument(state));
+  for (auto _ : state) {
+    const idw_rating rating = run.rating(1);
+    benchmark::DoNotOptimize(&rating);
+  }
+  state.SetItemsProcessed(state.iterations());
+}
+
+/// A rating of that search, and its lags: those to the members of all partitions of a sample make
+/// one batch.
+struct rating_case {
+  rating_case() {
+    for (const auto& [locations, values] : folds) {
+      const partition_sampler sampler(locations, parameters.max_distance, parameters.max_size,
+                                      parameters.sizes, "n_partitions");
+      random_engine master(seed);
+      random_engine engine(master());
+      partition_sampler::scratch scratch;
+      for (std::size_t i = 0; i < locations.size(); ++i) {
+        partition_list partitions;
+        sampler.draw(i, engine, scratch, partitions);
+        batches.push_back(partitions.members.size());
+        n_partitions += partitions.size();
+        n_lags += static_cast<std::int64_t>(batches.back());
+      }
+    }
+  }
+
+  static constexpr int seed = 1;
+  search_case run{2000};
+  idw_rating_parameters parameters = run.rating_parameters();
+  fold_list folds = create_folds(run.samples, run.values, run.diagonal, run.defaults.max_nei_size,
+                                 run.defaults.n_centers, seed);
+  std::vector<Covariance> structure{{covariance_type::spherical, 1.0, anisotropy()}};
+  std::vector<std::size_t> batches;
+  std::size_t n_partitions = 0;
+  std::int64_t n_lags = 0;
+};
+
+/// A rating; an item is a lag.
+void rating(benchmark::State& state) {
+  const rating_case run;
+  const idw_rating rate(run.folds, run.parameters, run.seed, 1);
+  for (auto _ : state) benchmark::DoNotOptimize(rate(run.structure, 1));
+  state.SetItemsProcessed(state.iterations() * run.n_lags);
+}
+
+/// The floor of a rating: the covariances of as many lags in batches of the same lengths. With the
+/// argument 0 a buffer for each length has its samples beforehand, with 1 they are set each time.
+void rating_floor(benchmark::State& state) {
+  const rating_case run;
+  const cov_computer cov = create_cov_computer(run.structure);
+  const location_list& samples = run.folds.front().first;
+  std::vector<std::uint32_t> members(*std::max_element(run.batches.begin(), run.batches.end()));
+  std::iota(members.begin(), members.end(), 1U);
+  std::vector<lag_buffer> buffers(members.size() + 1);
+  const auto set = [&](std::size_t n) {
+    buffers[n].set(samples, std::span(members).first(n), samples.front(), samples.front());
+  };
+  for (std::size_t n = 0; n < buffers.size(); ++n) set(n);
+  const bool sets = state.range(0) == 1;
+  for (auto _ : state) {
+    for (const std::size_t n : run.batches) {
+      if (sets) set(n);
+      benchmark::DoNotOptimize(cov.to_target(buffers[n]));
+      benchmark::ClobberMemory();
+    }
+  }
+  state.SetItemsProcessed(state.iterations() * run.n_lags);
+}
+
+/// How many blocks of memory a rating asks for, and how many more for each further partition: all
+/// folds are there a second time.
+void rating_allocations(benchmark::State& state) {
+  const rating_case run;
+  fold_list twice = run.folds;
+  twice.insert(twice.end(), run.folds.begin(), run.folds.end());
+  const idw_rating rate(run.folds, run.parameters, run.seed, 1);
+  const idw_rating rate_twice(twice, run.parameters, run.seed, 1);
+  const auto count = [&](const idw_rating& one) {
+    const std::int64_t before = n_allocations;
+    benchmark::DoNotOptimize(one(run.structure, 1));
+    return static_cast<double>(n_allocations - before);
+  };
+  double once = 0.0;
+  double more = 0.0;
+  for (auto _ : state) {
+    once = count(rate);
+    more = count(rate_twice) - once;
+  }
+  state.SetItemsProcessed(state.iterations());
+  state.counters["a_rating"] = once;
+  state.counters["a_partition"] = more / static_cast<double>(run.n_partitions);
+}
+
 // Short runs: the machine may be shared, and of several short ones some are undisturbed.
 constexpr double min_seconds = 0.1;
 
@@ -282,7 +490,34 @@ BENCHMARK(query)->MinTime(min_seconds)->Arg(20000)->Arg(100000);
 BENCHMARK(tree)->MinTime(min_seconds)->Arg(20000)->Arg(100000);
 BENCHMARK(transforms)->MinTime(min_seconds)->Arg(128)->Arg(192)->Arg(255);
 BENCHMARK(pairs)->MinTime(min_seconds)->Arg(0)->Arg(1)->Arg(4);
+BENCHMARK(partition_ldlt)->MinTime(min_seconds)->UseManualTime()->Arg(0)->Arg(1);
+BENCHMARK(search)->Iterations(1)->UseRealTime()->ArgsProduct({{500, 2000}, {0, 1}});
+BENCHMARK(search_candidates)->MinTime(min_seconds);
+BENCHMARK(search_partitions)->MinTime(min_seconds)->Arg(500)->Arg(2000);
+BENCHMARK(rating)->MinTime(min_seconds);
+BENCHMARK(rating_floor)->MinTime(min_seconds)->Arg(0)->Arg(1);
+BENCHMARK(rating_allocations)->Iterations(1);
 
 }  // namespace
+
+// The memory of the matrix library comes from malloc and goes past operator new. This one counts,
+// and leaves the work to the one of the C library.
+extern "C" {
+
+// NOLINTBEGIN(bugprone-reserved-identifier,readability-inconsistent-declaration-parameter-name)
+void* __libc_malloc(std::size_t size);
+void* __libc_memalign(std::size_t alignment, std::size_t size);
+// NOLINTEND(bugprone-reserved-identifier,readability-inconsistent-declaration-parameter-name)
+
+void* malloc(std::size_t size) {
+  n_allocations.fetch_add(1, std::memory_order_relaxed);
+  return __libc_malloc(size);
+}
+
+void* aligned_alloc(std::size_t alignment, std::size_t size) {
+  n_allocations.fetch_add(1, std::memory_order_relaxed);
+  return __libc_memalign(alignment, size);
+}
+}
 
 BENCHMARK_MAIN();

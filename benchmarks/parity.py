@@ -33,6 +33,7 @@ MODEL = [
     gx.Covariance.exponential(3e-5, ELLIPSOID),
     gx.Covariance.gaussian(2e-5, gx.Ellipsoid(90, 50, 30, 110, -10, 40)),
 ]
+SHAPES = (gx.Covariance.spherical, gx.Covariance.gaussian, gx.Covariance.exponential)
 UNIT_MODEL = [gx.Covariance.nugget(0.1), gx.Covariance.spherical(0.9, ELLIPSOID)]
 
 # How many neighbours, and which; the estimators share these.
@@ -249,6 +250,250 @@ def simulation():
     yield "simulate", gx.simulate(field, kriging, TARGETS, NEIGHBORHOOD, SAMPLES, VALUES, 1)
 
 
+def cross_validations():
+    yield "create_folds", gx.create_folds(SAMPLES, VALUES, 45, 30, 6)
+    yield "create_folds.radius", gx.create_folds(SAMPLES, VALUES, 30, -1, 6, 5)
+    scales = [0.1, 0.3]
+    yield (
+        "create_folds_using_multiscale",
+        gx.create_folds_using_multiscale(
+            4, 5, 30, 60, scales, ELLIPSOID, SAMPLES, VALUES, -1, -1, -1
+        ),
+    )
+    forms = {"idw": {"power_a": 2.5}, "sk": {}, "ok": {}}
+    # Each thread has an engine of its own: errors repeat for the same number of them.
+    for threads in (1, 3):
+        for form, kwargs in forms.items():
+            validate = getattr(gx, f"kfold_cross_validation_using_{form}")
+            for selection, size in {"count": 30, "radius": -1, "all": len(SAMPLES)}.items():
+                errors = validate(
+                    SAMPLES,
+                    VALUES,
+                    UNIT_MODEL,
+                    35,
+                    size,
+                    n_partition_size=4,
+                    n_threads=threads,
+                    **kwargs,
+                )
+                yield f"kfold_cross_validation_using_{form}.{selection}.{threads}", errors
+        yield (
+            f"multi_scale_cross_validation_error.{threads}",
+            gx.multi_scale_cross_validation_error(
+                SAMPLES, VALUES, MODEL, 60, 40, 25, scales, 30, -1, 6, threads
+            ),
+        )
+
+
+def searches():
+    folds = gx.create_folds(SAMPLES, VALUES, 60, 60, 4)
+    sizes = {"min_partition_size": 5, "max_partition_size": 12, "n_partitions": 3}
+    penalty = {"regularization_const": 0.01}
+    groups = {"max_distance": 60, "max_nei_size": 60, "n_centers": 4}
+    rays = {"n_rays": 20, "n_scales": 2, "tol": 0.05}
+    tries = {"n_iterations": 60, "n_iterations_without_upgrade": 40}
+    cubic, square = {"power_a": 3}, {"power_a": 2}
+    models = [MODEL[1:2], UNIT_MODEL, MODEL]
+    wide = gx.Ellipsoid(200, 150, 120, 0, 0, 0)
+    starts = [[gx.Covariance.nugget(0.1), cov(0.9, wide)] for cov in SHAPES]
+    error = gx.CovarianceErrorFunction.IDW(folds, 60, **square, **sizes)
+    # The sum of the threads' means depends on their number.
+    for threads in (1, 3):
+        yield f"CovarianceErrorFunction.IDW.{threads}", [error(model, threads) for model in models]
+        yield (
+            f"compute_covariance_error_idw.{threads}",
+            [
+                gx.compute_covariance_error_idw(
+                    UNIT_MODEL, folds, 50, size, power_a, **sizes, **penalty, n_threads=threads
+                )
+                for size in (-1, 20, 100)
+                for power_a in (3, 2, 1, 2.5)
+            ],
+        )
+        yield (
+            f"compute_ellipsoid_error_idw.{threads}",
+            [
+                gx.compute_ellipsoid_error_idw(
+                    ELLIPSOID, kernel, folds, 50, -1, 3, **sizes, **penalty, n_threads=threads
+                )
+                for kernel in (gx.Kernel.spherical, gx.Kernel.exponential, gx.Kernel.gaussian)
+            ],
+        )
+        yield (
+            f"optimize_covariance.{threads}",
+            gx.optimize_covariance(starts, error, 40, 30, threads),
+        )
+        run = {**sizes, **penalty, **groups, **rays, **tries, "n_threads": threads, "debug": False}
+        yield (
+            f"optimize_ellipsoid_using_idw.{threads}",
+            gx.optimize_ellipsoid_using_idw(
+                SAMPLES, VALUES, gx.Kernel.spherical, 10, 90, **cubic, **run
+            ),
+        )
+        yield (
+            f"optimize_covariance_using_idw.{threads}",
+            gx.optimize_covariance_using_idw(
+                SAMPLES,
+                VALUES,
+                ELLIPSOID,
+                gx.Kernel.spherical,
+                2,
+                50,
+                20,
+                0.2,
+                1.5,
+                0.1,
+                0.9,
+                10,
+                90,
+                **square,
+                **run,
+            ),
+        )
+        record = gx.EllipsoidOptimizationParameters(
+            max_nei_size=60, n_partitions=3, n_centers=3, **rays, **tries, n_threads=threads
+        )
+        search = (gx.Kernel.gaussian, 0.1, 1)
+        yield (
+            f"optimize_ellipsoid.{threads}",
+            gx.optimize_ellipsoid(SAMPLES, VALUES, *search, record),
+        )
+        yield (
+            f"optimize_local_ellipsoids.{threads}",
+            gx.optimize_local_ellipsoids(SAMPLES, VALUES, *search, 3, 1, 60, record),
+        )
+
+
+def fits():
+    folds = gx.create_folds(SAMPLES, VALUES, 60, 40, 3)
+    lags = LAGS[:-1]  # the last one is 0
+    variogram = gx.variogram_computer(UNIT_MODEL, 1.0)
+    semivariances = [variogram(lag) for lag in lags]
+    weights = [1.0 + i % 4 for i in range(len(lags))]
+    for threads in (1, 3):
+        for kind in ("spherical", "gaussian", "exponential"):
+            yield (
+                f"optimize_ellipsoid_using_kfold.{kind}.{threads}",
+                gx.optimize_ellipsoid_using_kfold(
+                    folds, kind, 200, 150, 100, 0.1, 0.5, n_iterations=30, n_threads=threads
+                ),
+            )
+            yield (
+                f"extract_covariance_from_varmap.{kind}.{threads}",
+                gx.extract_covariance_from_varmap(
+                    lags,
+                    semivariances,
+                    weights,
+                    2,
+                    kind,
+                    5,
+                    5,
+                    5,
+                    90,
+                    90,
+                    90,
+                    1.0,
+                    30,
+                    1.0,
+                    0.5,
+                    0.01,
+                    2.0,
+                    1,
+                    threads,
+                    False,
+                ),
+            )
+        record = gx.EllipsoidLBFGSParameters(0.1, n_iterations=20, n_threads=threads)
+        yield (
+            f"optimize_local_ellipsoids_using_lbfgs.{threads}",
+            gx.optimize_local_ellipsoids_using_lbfgs(
+                SAMPLES, VALUES, "spherical", 3, 2, 1.0, 60, 40, 80, record
+            ),
+        )
+
+
+def ensembles():
+    turned = [gx.Ellipsoid(60, 40, 25, 30 + 25 * i, 20 - 5 * i, 10 * i) for i in range(4)]
+    errors = [1.0, 0.5, 2.0, 1.5]
+    local = gx.LocalCovariances(
+        TARGETS[:400:100], [[gx.Covariance.spherical(1.0, axes)] for axes in turned], errors
+    )
+    lists = ([60, 70, 80], [40, 50, 60], [25, 20, 30], [30, 70, 160], [20, 5, -30], [10, 0, 45])
+    yield "ensemble_model", gx.ensemble_model(*lists, errors[:3])
+    yield "ensemble_ellipsoid", gx.ensemble_ellipsoid(errors, turned)
+    holes = {"dhids": HOLES, "max_neis_by_dhid": 2}
+    for threads in (1, 3):
+        yield (
+            f"ensemble_local_ellipsoids.{threads}",
+            gx.ensemble_local_ellipsoids(
+                TARGETS, local.centers, turned, errors, 3, n_threads=threads
+            ),
+        )
+        data = (TARGETS, SAMPLES, VALUES, local, ELLIPSOID)
+        yield (
+            f"ensemble_estimation.{threads}",
+            [
+                gx.ensemble_estimation(
+                    *data, 16, -1, 3, 3, 2.0, 0.8, threads, use_sk=use_sk, **holes
+                )
+                for use_sk in (False, True)
+            ],
+        )
+        factory = gx.SimulatorFactory.TBSIM(GRID.corners(), 40)
+        yield (
+            f"ensemble_simulation.{threads}",
+            gx.ensemble_simulation(
+                TARGETS,
+                SAMPLES,
+                VALUES,
+                local,
+                ELLIPSOID,
+                factory,
+                16,
+                -1,
+                3,
+                3,
+                2.0,
+                0.8,
+                9,
+                threads,
+                **holes,
+            ),
+        )
+
+
+def transforms():
+    related = np.column_stack([SAMPLES, VALUES])  # samples in rows
+    weights = [1.0 + i % 4 for i in range(len(related))]
+    for name, more in {"GMMFitter.fit": (), "GMMFitter.fit.weights": (weights,)}.items():
+        yield name, gx.GMMFitter(3, 7, 0.0).fit(related, *more)
+    scores = np.random.RandomState(3).normal(size=related.T.shape)
+    means = [related.mean(axis=0) + shift for shift in (-5, 9)]
+    mixture = gx.GMMParams(2, [0.4, 0.6], means, [np.cov(related.T), np.diag(related.var(axis=0))])
+    transform = gx.SCT(mixture)
+    yield "SCT.forward", transform.forward(related.T)
+    yield "SCT.backward", transform.backward(scores)
+    chain = gx.PPMT(related.T, 9)
+    yield "PPMT.forward", chain.forward(related.T)
+    yield "PPMT.backward", chain.backward(scores)
+    yield "PPMT.forward.point", chain.forward(related[5])
+    yield "PPMT.backward.point", chain.backward(scores[:, 5])
+    yield "PPMT.principal_axes", gx.PPMT(related.T, 9, 0.0, 1).forward(related.T)
+    flags = (False, True)
+    yield (
+        "compute_svd_decomposition",
+        [gx.compute_svd_decomposition(related, is_surface) for is_surface in flags],
+    )
+    yield (
+        "compute_optimum_rotation",
+        [gx.compute_optimum_rotation(related, a, b) for a in flags for b in flags],
+    )
+    yield (
+        "create_random_orthogonal_matrix",
+        [gx.create_random_orthogonal_matrix(n, 7) for n in (1, 4, 9)],
+    )
+
+
 FAMILIES = (
     samplers,
     ellipsoids,
@@ -261,6 +506,11 @@ FAMILIES = (
     spectra,
     distributions,
     simulation,
+    cross_validations,
+    searches,
+    fits,
+    ensembles,
+    transforms,
 )
 
 
@@ -277,6 +527,10 @@ def to_text(value):
         return [to_text(value.matrix()), to_text(value.inv_matrix())]
     if isinstance(value, gx.Covariance):
         return [value.type(), to_text(value.sill()), to_text(value.ellipsoid())]
+    if isinstance(value, gx.LocalCovariances):
+        return [to_text(part) for part in (value.centers, value.covariances, value.errors)]
+    if isinstance(value, gx.GMMParams):
+        return [to_text(part) for part in (value.weights, value.means, value.covariances)]
     if isinstance(value, gx.ExperimentalVariogram):
         lags = [value.lags(), value.variogram(), value.npairs(), value.direction_ids()]
         return [to_text(part) for part in (*lags, value.directions(), value.lags_by_dir())]

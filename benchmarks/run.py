@@ -20,6 +20,8 @@ for library in ("OMP", "OPENBLAS", "MKL", "BLIS", "NUMBA"):
 
 import estimation_figures  # noqa: E402
 import grid_variogram_figures  # noqa: E402
+import multivariate_figures  # noqa: E402
+import optimization_figures  # noqa: E402
 import simulation_figures  # noqa: E402
 import spatial_figures  # noqa: E402
 import variogram_figures  # noqa: E402
@@ -31,6 +33,8 @@ FAMILIES = (
     grid_variogram_figures,
     variogram_figures,
     simulation_figures,
+    optimization_figures,
+    multivariate_figures,
 )
 BENCHMARKS = {figure.__name__: figure for family in FAMILIES for figure in family.FIGURES}
 

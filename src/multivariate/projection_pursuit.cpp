@@ -215,15 +215,15 @@ void PPMT::carry_forward(Eigen::Ref<MatrixXd> points, VectorXd& scratch) const {
 }
 
 void PPMT::carry_backward(Eigen::Ref<MatrixXd> points, VectorXd& scratch) const {
-  for (auto step = steps_.rbegin(); step != steps_.rend(); ++step) {
-    for (auto point : points.colwise()) (*step)->backward(point, scratch);
+  for (std::size_t s = steps_.size(); s-- > 0;) {
+    for (auto point : points.colwise()) steps_[s]->backward(point, scratch);
   }
 }
 
 MatrixXd PPMT::forward(const MatrixXd& data, int n_threads) const {
   check_points("data", data);
   MatrixXd points = data;
-  for_each_block(points, n_threads, [&](Eigen::Ref<MatrixXd> block, VectorXd& scratch) {
+  for_each_block(points, n_threads, [&](const Eigen::Ref<MatrixXd>& block, VectorXd& scratch) {
     carry_forward(block, scratch);
   });
   return points;
@@ -232,7 +232,7 @@ MatrixXd PPMT::forward(const MatrixXd& data, int n_threads) const {
 MatrixXd PPMT::backward(const MatrixXd& data, int n_threads) const {
   check_points("data", data);
   MatrixXd points = data;
-  for_each_block(points, n_threads, [&](Eigen::Ref<MatrixXd> block, VectorXd& scratch) {
+  for_each_block(points, n_threads, [&](const Eigen::Ref<MatrixXd>& block, VectorXd& scratch) {
     carry_backward(block, scratch);
   });
   return points;
