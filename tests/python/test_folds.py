@@ -61,8 +61,7 @@ def test_cross_validation_by_random_partitions(method, run, n_threads, samples):
     function = getattr(gravelox, f"kfold_cross_validation_using_{method}")
     for seed, (estimate, power) in enumerate(LOCAL[method], -5):
         found = function(*samples, COVS, *reach, *power, low, high, n, n_threads, seed)
-        rest = estimate, *reach, (low, high), n, seed, n_threads
-        expected = optimization.kfold(*samples, *rest)
+        expected = optimization.kfold(*samples, estimate, *reach, (low, high), n, seed, n_threads)
         assert_allclose(np.reshape(found, (60, n)), expected, rtol=1e-7, atol=1e-9)
         assert np.isfinite(expected).any() or n == 0
 

@@ -11,7 +11,6 @@ from scipy.spatial.transform import Rotation
 
 
 def kriged(model, mean=None):
-    """An estimate of a value by a model in rows; of no members it is 0."""
     return lambda samples, *rest: kriging(model, samples, *rest, mean)[0] if len(samples) else 0.0
 
 
@@ -85,7 +84,6 @@ def shrunk(s, draws):
 
 
 def search(models, error, n_iterations, patience, n_threads):
-    """The least error and its model: of the list, then of improvements by each thread."""
     best, master = (error(models[0], n_threads), models[0]), Engine(1213541)
     own = [best] * n_threads
     for improves, n in ((False, len(models)), (True, n_iterations + n_threads)):
@@ -175,8 +173,7 @@ def blended(weights, matrices):
         tries = [min(aligned(*pair), key=lambda t: t[0]) for pair in left]
         best = min(range(len(left)), key=lambda i: tries[i][0])
         (_, weight, rows), _ = tries[best], left.pop(best)
-        mean = (mean * total + rows * weight) / (total + weight)
-        total += weight
+        total, mean = total + weight, (mean * total + rows * weight) / (total + weight)
     return spatial.sorted_rows(mean)
 
 
