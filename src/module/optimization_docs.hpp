@@ -99,7 +99,8 @@ tol : float
     Greatest cosine of two directions that count as at right angles: a tolerance of the candidates'
     axes, and not of convergence. The number of candidates grows with it.
 regularization_const : float
-    Weight of the penalty on ranges; 0 for none.
+    Weight of the penalty on ranges; 0 for none. It acts on numbers of length units: in metres the
+    default punishes long ranges so hard that the search may end at ranges near 0.
 seed : int
     Seed of candidates, groups and partitions. The tries of the second phase do not depend on it.
 n_threads : int
@@ -520,7 +521,8 @@ Returns
 -------
 Ellipsoid
     The fit, or what it reached after `n_iterations`; nothing tells of a fit that failed. Where
-    values are all equal it is the start.
+    values are all equal, or a partition is just as large as its group and leaves nothing to
+    estimate, it is the start: take a `min_partition_size` well below the sizes of the groups.
 
 Raises
 ------
@@ -827,7 +829,7 @@ min_r1, min_r2, min_r3 : float
     Least ranges along x, y and z before the fit turns them, in length units, the same for all
     structures.
 max_r1, max_r2, max_r3 : float
-    Greatest ranges, likewise. A fit starts from the middle.
+    Greatest ranges, likewise. A fit starts from the middle; equal bounds hold a range.
 total_sill : float
     Sum of all sills, in data units squared; not 0.
 n_iterations : int

@@ -104,7 +104,10 @@ double least_squares_problem::solve(const solver_settings& settings) {
 
 void least_squares_problem::PrepareForEvaluation(bool evaluate_jacobians,
                                                  bool /*new_evaluation_point*/) {
-  parallel_for(costs_.size(), n_threads_, [&](std::size_t i, int /*thread_number*/) {
+  // Few residuals are done before other threads have woken up, the more so on a busy machine.
+  constexpr int least_residuals = 1000;
+  const int n_threads = problem_->NumResiduals() < least_residuals ? 1 : n_threads_;
+  parallel_for(costs_.size(), n_threads, [&](std::size_t i, int /*thread_number*/) {
     costs_[i]->prepare(parameters_.data(), evaluate_jacobians);
   });
 }

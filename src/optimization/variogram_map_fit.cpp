@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "optimization/variogram_map_fit.hpp"
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <limits>
 #include <string>
 
 #include "common/checks.hpp"
+#include "common/integer.hpp"
 #include "common/memory.hpp"
 #include "common/robust_power.hpp"
 #include "common/text.hpp"
@@ -92,8 +95,10 @@ void set_bounds(const range_bounds& ranges, detail::least_squares_problem& probl
   for (std::size_t first = 0; first < nugget; first += n_per_structure) {
     problem.set_bounds(first, least_share, 1.0);
     for (Eigen::Index axis = 0; axis < 3; ++axis) {
-      problem.set_bounds(first + 1 + static_cast<std::size_t>(axis), ranges.least[axis],
-                         ranges.greatest[axis]);
+      // Equal bounds hold a range; the solver would take them for a contradiction.
+      const double least = ranges.least[axis];
+      const double above = std::nextafter(least, std::numeric_limits<double>::infinity());
+      problem.set_bounds(first + 1 + to_size(axis), least, std::max(ranges.greatest[axis], above));
     }
   }
   problem.set_bounds(nugget, least_share, 1.0);

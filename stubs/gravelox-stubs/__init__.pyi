@@ -1480,7 +1480,8 @@ class EllipsoidOptimizationParameters:
             Greatest cosine of two directions that count as at right angles: a tolerance of the candidates'
             axes, and not of convergence. The number of candidates grows with it.
         regularization_const : float
-            Weight of the penalty on ranges; 0 for none.
+            Weight of the penalty on ranges; 0 for none. It acts on numbers of length units: in metres the
+            default punishes long ranges so hard that the search may end at ranges near 0.
         seed : int
             Seed of candidates, groups and partitions. The tries of the second phase do not depend on it.
         n_threads : int
@@ -5251,7 +5252,7 @@ def extract_covariance_from_varmap(lags: numpy.typing.ArrayLike, variogram: nump
         Least ranges along x, y and z before the fit turns them, in length units, the same for all
         structures.
     max_r1, max_r2, max_r3 : float
-        Greatest ranges, likewise. A fit starts from the middle.
+        Greatest ranges, likewise. A fit starts from the middle; equal bounds hold a range.
     total_sill : float
         Sum of all sills, in data units squared; not 0.
     n_iterations : int
@@ -6280,7 +6281,8 @@ def optimize_ellipsoid_using_kfold(folds: list[tuple[list[numpy.ndarray[numpy.fl
     -------
     Ellipsoid
         The fit, or what it reached after `n_iterations`; nothing tells of a fit that failed. Where
-        values are all equal it is the start.
+        values are all equal, or a partition is just as large as its group and leaves nothing to
+        estimate, it is the start: take a `min_partition_size` well below the sizes of the groups.
 
     Raises
     ------
