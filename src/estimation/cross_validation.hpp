@@ -46,9 +46,9 @@ class idw_validation {
 /// Data are standardised by mean and population standard deviation; equal values give NaN. A master
 /// engine of the seed gives each thread an engine, so errors repeat for the same number of threads.
 /// The kriging forms solve the system of the members, also where it is one alone. The multiplier is
-/// part of the ordinary estimate, in units of the sills: the less they add up to, the less it counts,
-/// while the weights stay. Throws std::invalid_argument for lists of different lengths and as
-/// partition_sampler does.
+/// part of the ordinary estimate, in units of the sills: the less they add up to, the less it
+/// counts, while the weights stay. Throws std::invalid_argument for lists of different lengths and
+/// as partition_sampler does.
 std::vector<std::vector<double>> kfold_cross_validation_using_idw(
     const location_list& data_locs, const std::vector<double>& data_values,
     const std::vector<Covariance>& covs, double max_distance, int max_size, double power_a,
