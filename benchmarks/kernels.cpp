@@ -426,7 +426,7 @@ struct rating_case {
 /// A rating; an item is a lag.
 void rating(benchmark::State& state) {
   const rating_case run;
-  const idw_rating rate(run.folds, run.parameters, run.seed, 1);
+  const idw_rating rate(run.folds, run.parameters, rating_case::seed, 1);
   for (auto _ : state) benchmark::DoNotOptimize(rate(run.structure, 1));
   state.SetItemsProcessed(state.iterations() * run.n_lags);
 }
@@ -461,8 +461,8 @@ void rating_allocations(benchmark::State& state) {
   const rating_case run;
   fold_list twice = run.folds;
   twice.insert(twice.end(), run.folds.begin(), run.folds.end());
-  const idw_rating rate(run.folds, run.parameters, run.seed, 1);
-  const idw_rating rate_twice(twice, run.parameters, run.seed, 1);
+  const idw_rating rate(run.folds, run.parameters, rating_case::seed, 1);
+  const idw_rating rate_twice(twice, run.parameters, rating_case::seed, 1);
   const auto count = [&](const idw_rating& one) {
     const std::int64_t before = n_allocations;
     benchmark::DoNotOptimize(one(run.structure, 1));

@@ -47,11 +47,10 @@ location mean_location(const location_list& locs) {
   return sum / static_cast<double>(locs.size());
 }
 
-location add_center(const fold& group, bool debug, LocalCovariances& models) {
+void add_center(const fold& group, bool debug, LocalCovariances& models) {
   const location center = mean_location(group.first);
   if (debug) print_to_both(text_of("Processing center: ", center.transpose(), "..."));
   models.centers.push_back(center);
-  return center;
 }
 
 std::string progress(std::size_t i, const fold_list& folds) {

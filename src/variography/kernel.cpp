@@ -141,7 +141,7 @@ covariance_type to_covariance_type(std::string_view text) {
 covariance_type to_fitted_type(std::string_view name, std::string_view text) {
   const covariance_type type = to_covariance_type(text);
   if (type == covariance_type::nugget || type == covariance_type::idw) {
-    refuse(name, "\"spherical\", \"gaussian\" or \"exponential\"", '"' + std::string(text) + '"');
+    refuse(name, R"("spherical", "gaussian" or "exponential")", '"' + std::string(text) + '"');
   }
   return type;
 }
