@@ -49,6 +49,20 @@ def test_search(limits, n):
     assert (s.type(), s(lag)) == ("spherical", Covariance.gaussian(s.sill(), s.ellipsoid())(lag))
 
 
+def test_a_small_search_is_pinned():
+    i = np.arange(40.0)
+    locs = np.column_stack([i * 37 % 41, i * 23 % 43, i * 11 % 17])
+    values = np.sin(locs[:, 0] / 9) + locs[:, 1] / 40
+    settings = Options(3, 20, 4, 9, 4, 3, 20, 2, 30, 50, 0.05, 0.001, seed=7, n_threads=1)
+    best, e = gravelox.optimize_ellipsoid(locs, values, Kernel.exponential, 0.05, 0.6, settings)
+    assert_allclose(e, 0.7605422976239066, rtol=1e-9)
+    info = best.info()
+    found = info.r1(), info.r2(), info.r3(), info.azimuth(), info.dip(), info.rake()
+    assert_allclose(
+        found, (25.28233589, 21.14903664, 14.66578698, 64.473641, 18.382941, -35.469361)
+    )
+
+
 @THREADS
 @pytest.mark.parametrize("kind", ["ellipsoids", "covariances"])
 def test_searches_by_inverse_distance(kind, n, samples):
