@@ -41,7 +41,7 @@ alignment align(const Eigen::Matrix3d& matrix, const Eigen::Matrix3d& reference)
   for (const std::array<int, 3>& permutation : permutations) {
     alignment tried{Eigen::Matrix3d::Zero(), 0.0};
     for (Eigen::Index row = 0; row < 3; ++row) {
-      const Eigen::RowVector3d axis = matrix.row(permutation[static_cast<std::size_t>(row)]);
+      const Eigen::RowVector3d axis = matrix.row(permutation[to_size(row)]);
       const double as_it_is = (axis - reference.row(row)).squaredNorm();
       const double turned = (axis + reference.row(row)).squaredNorm();
       tried.matrix.row(row) = turned < as_it_is ? Eigen::RowVector3d(-axis) : axis;

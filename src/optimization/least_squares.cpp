@@ -7,6 +7,7 @@
 #include <numbers>
 #include <optional>
 
+#include "common/integer.hpp"
 #include "common/parallel_for.hpp"
 #include "common/report.hpp"
 #include "common/solver_log.hpp"
@@ -34,9 +35,9 @@ class least_squares_problem::stored_cost final : public ceres::CostFunction {
   explicit stored_cost(std::unique_ptr<ceres::CostFunction> cost) : cost_(std::move(cost)) {
     set_num_residuals(cost_->num_residuals());
     *mutable_parameter_block_sizes() = cost_->parameter_block_sizes();
-    const auto n = static_cast<std::size_t>(num_residuals());
+    const auto n = to_size(num_residuals());
     residuals_.resize(n);
-    jacobian_.resize(n * static_cast<std::size_t>(parameter_block_sizes().front()));
+    jacobian_.resize(n * to_size(parameter_block_sizes().front()));
   }
 
   void prepare(const double* parameters, bool evaluate_jacobians) {

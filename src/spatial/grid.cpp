@@ -4,11 +4,11 @@
 #include <cmath>
 #include <cstdint>
 #include <limits>
-#include <sstream>
 #include <stdexcept>
 
 #include "common/checks.hpp"
 #include "common/integer.hpp"
+#include "common/text.hpp"
 
 namespace gravelox {
 
@@ -32,9 +32,8 @@ int whole_cells(double length, double cell_size) {
   const double count = std::trunc(length / cell_size);
   // Also false for a quotient that is not a number.
   if (!(count >= 1.0 && count <= most_cells)) {
-    std::ostringstream got;
-    got << "length / cell_size = " << length << " / " << cell_size;
-    refuse("cell_size", "1 to 2147483647 cells along each axis", got.str());
+    refuse("cell_size", "1 to 2147483647 cells along each axis",
+           text_of("length / cell_size = ", length, " / ", cell_size));
   }
   return static_cast<int>(count);
 }
