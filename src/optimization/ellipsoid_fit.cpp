@@ -8,12 +8,13 @@
 
 #include "common/checks.hpp"
 #include "common/integer.hpp"
+#include "common/least_squares_detail.hpp"
 #include "common/memory.hpp"
 #include "common/random.hpp"
 #include "common/robust_power.hpp"
 #include "common/statistics.hpp"
 #include "common/text.hpp"
-#include "optimization/least_squares_detail.hpp"
+#include "optimization/structure_fit_detail.hpp"
 
 namespace gravelox {
 
@@ -132,7 +133,7 @@ Ellipsoid optimize_ellipsoid_using_kfold(const fold_list& folds, const std::stri
     for (int k = 0; k < n_partitions; ++k) {
       const std::size_t size = draw_size(one.second.size(), min_partition_size, n_sizes, engine);
       const KfoldOptimization partition = draw_partition(one, type, size, engine);
-      problem.add(partition, partition.n_residuals(), cauchy_loss);
+      problem.add(partition, partition.n_residuals(), detail::loss_scale_of(cauchy_loss));
     }
   }
   if (regularization_const > 0.0) {
@@ -143,7 +144,7 @@ Ellipsoid optimize_ellipsoid_using_kfold(const fold_list& folds, const std::stri
   problem.set_bounds(1, 0.001 * r1_max, r1_max);
   problem.set_bounds(2, 0.001 * r2_max, r2_max);
   problem.set_bounds(3, 0.001 * r3_max, r3_max);
-  const double cost = problem.solve({n_iterations, n_threads, debug});
+  const double cost = problem.solve({n_iterations, n_threads, debug}).final_cost;
   if (final_cost != nullptr) *final_cost = cost;
   return detail::fitted_ellipsoid(problem.parameters().data());
 }

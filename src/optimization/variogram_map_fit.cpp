@@ -9,10 +9,11 @@
 
 #include "common/checks.hpp"
 #include "common/integer.hpp"
+#include "common/least_squares_detail.hpp"
 #include "common/memory.hpp"
 #include "common/robust_power.hpp"
 #include "common/text.hpp"
-#include "optimization/least_squares_detail.hpp"
+#include "optimization/structure_fit_detail.hpp"
 
 namespace gravelox {
 
@@ -147,7 +148,7 @@ std::vector<Covariance> extract_covariance_from_varmap(
     if (!(weights[i] >= least_weight)) continue;
     problem.add(
         VarfitOptimization{type, n_structures, lags[i], variogram[i] / total_sill, weights[i]}, 1,
-        cauchy_loss);
+        detail::loss_scale_of(cauchy_loss));
   }
   if (regularization_const > 0.0) problem.add(prior, prior.n_residuals(), 0.0);
   set_bounds(ranges, problem);
