@@ -7,6 +7,8 @@
 #include <ceres/solver.h>
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 #include <optional>
 
 #include "common/integer.hpp"
@@ -96,6 +98,8 @@ void least_squares_problem::set_bounds(std::size_t parameter, double lower, doub
 void least_squares_problem::set_bounds(std::size_t block, std::size_t parameter, double lower,
                                        double upper) {
   const int index = static_cast<int>(parameter);
+  // The solver would take equal bounds for a contradiction.
+  if (upper == lower) upper = std::nextafter(lower, std::numeric_limits<double>::infinity());
   problem_->SetParameterLowerBound(block_pointers_[block], index, lower);
   problem_->SetParameterUpperBound(block_pointers_[block], index, upper);
 }

@@ -81,7 +81,7 @@ class least_squares_problem : private ceres::EvaluationCallback {
     add(std::make_unique<Functor>(functor), n_residuals, loss_scale);
   }
 
-  /// Bounds of a parameter of the first block, or of any. The solver refuses equal ones.
+  /// Bounds of a parameter of the first block, or of any. Equal ones hold it.
   void set_bounds(std::size_t parameter, double lower, double upper);
   void set_bounds(std::size_t block, std::size_t parameter, double lower, double upper);
 

@@ -19,8 +19,11 @@ void register_variography_module(py::module_& m);
 void register_folds_module(py::module_& m);
 void register_optimization_module(py::module_& m);
 
-/// The last names of the family of optimisation: blends of local models.
+/// The other names of the family of optimisation, in this order: blends of local models, maps
+/// between spaces, distance graphs with geodesics and scaling.
 void register_ensembles(py::module_& m);
+void register_projections(py::module_& m);
+void register_graphs(py::module_& m);
 
 void register_spectra_module(py::module_& m);
 void register_rotation_module(py::module_& m);

@@ -16,6 +16,11 @@ struct one_dimensional_array {
   Eigen::VectorXd values;
 };
 
+/// A point for functions that also take lists of points: an empty list is a list without points.
+struct point_array {
+  Eigen::VectorXd values;
+};
+
 }  // namespace gravelox
 
 namespace pybind11::detail {
@@ -45,5 +50,14 @@ class type_caster<gravelox::two_dimensional_array>
 template <>
 class type_caster<gravelox::one_dimensional_array>
     : public dimension_caster<gravelox::one_dimensional_array, Eigen::VectorXd, 1> {};
+
+template <>
+class type_caster<gravelox::point_array>
+    : public dimension_caster<gravelox::point_array, Eigen::VectorXd, 1> {
+ public:
+  bool load(handle source, bool convert) {
+    return dimension_caster::load(source, convert) && value.values.size() > 0;
+  }
+};
 
 }  // namespace pybind11::detail

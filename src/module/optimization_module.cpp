@@ -250,6 +250,8 @@ void register_optimization_module(py::module_& m) {
         arg("threshold"), arg("seed"), arg("n_threads") = 0, arg("debug") = true, release_gil(),
         docs::extract_covariance_from_varmap);
   register_ensembles(m);
+  register_projections(m);
+  register_graphs(m);
 }
 
 }  // namespace gravelox

@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
-#include <limits>
 #include <string>
 
 #include "common/checks.hpp"
@@ -96,10 +95,7 @@ void set_bounds(const range_bounds& ranges, detail::least_squares_problem& probl
   for (std::size_t first = 0; first < nugget; first += n_per_structure) {
     problem.set_bounds(first, least_share, 1.0);
     for (Eigen::Index axis = 0; axis < 3; ++axis) {
-      // Equal bounds hold a range; the solver would take them for a contradiction.
-      const double least = ranges.least[axis];
-      const double above = std::nextafter(least, std::numeric_limits<double>::infinity());
-      problem.set_bounds(first + 1 + to_size(axis), least, std::max(ranges.greatest[axis], above));
+      problem.set_bounds(first + 1 + to_size(axis), ranges.least[axis], ranges.greatest[axis]);
     }
   }
   problem.set_bounds(nugget, least_share, 1.0);

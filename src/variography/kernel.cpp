@@ -138,6 +138,15 @@ covariance_type to_covariance_type(std::string_view text) {
   return find_shape([text](const kernel_shape& shape) { return shape.text == text; }).type;
 }
 
+covariance_type to_known_type(std::string_view name, std::string_view text) {
+  const covariance_type type = to_covariance_type(text);
+  if (to_text(type) != text) {
+    refuse(name, R"("spherical", "gaussian", "exponential", "nugget" or "idw")",
+           '"' + std::string(text) + '"');
+  }
+  return type;
+}
+
 covariance_type to_fitted_type(std::string_view name, std::string_view text) {
   const covariance_type type = to_covariance_type(text);
   if (type == covariance_type::nugget || type == covariance_type::idw) {
