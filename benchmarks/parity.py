@@ -494,6 +494,89 @@ def transforms():
     )
 
 
+def projections():
+    source, points = np.array(SAMPLES[::4]) / 40, np.array(TARGETS) / 40
+    target = np.column_stack([np.sin(source[:, 0]), source[:, 1] + source[:, 2] ** 2])
+    rows = np.column_stack([target, source[:, 2]])  # a projection by blends keeps the dimension
+    rest, kernel = (0.8, 0.4, 12), gx.Kernel.exponential
+    start = source, target, 6, 3, 2
+    for threads in (1, 3):
+        fitted = gx.OptimizedNDProjection.optimize(*start, threads, 15)
+        parts = fitted.centers, fitted.scales, fitted.weights
+        yield f"OptimizedNDProjection.optimize.{threads}", parts
+        maps = {
+            "IDWProjection": gx.IDWProjection(source, rows, *rest),
+            "GaussianMixtureProjection": gx.GaussianMixtureProjection(source, rows, *rest, kernel),
+            "OKProjection": gx.OKProjection(source, rows, *rest, kernel),
+            "MDSProjection": gx.MDSProjection(source, target, source[::3], 0.4, kernel),
+            "OptimizedNDProjection": fitted,
+        }
+        for name, projection in maps.items():
+            yield f"{name}.project.{threads}", projection.project(points, threads)
+
+
+def isomorphisms():
+    source = np.random.RandomState(4).lognormal(size=80)
+    target = np.log(source) + 0.1 * np.sin(9 * source)
+    bounds = -3, 3, 0.01, 4, 0, 9
+    shapes = "gaussian", 6, 0.01, 4, "exponential", 5, 0.01, 4
+    for threads in (1, 3):
+        for kernel in ("spherical", "gaussian", "exponential"):
+            fitted = gx.optimize_projection(
+                source, target, kernel, 6, *bounds, 8, 10, 30, 0.2, 20, threads
+            )
+            yield f"optimize_projection.{kernel}.{threads}", fitted.serialize()
+        record = gx.IsomorphismParameters(n_iterations=10, n_threads=threads)
+        rest = -3, 3, 0, 9, 8, 10, 30, 0.2, 20, threads
+        pairs = {
+            "list": gx.optimize_isomorphism(source, target, *shapes, *rest),
+            "record": gx.optimize_isomorphism(source, target, record),
+        }
+        for name, pair in pairs.items():
+            yield f"optimize_isomorphism.{name}.{threads}", pair.serialize()
+            yield f"Isomorphism.forward.{name}.{threads}", pair.forward(source, threads)
+            yield f"Isomorphism.backward.{name}.{threads}", pair.backward(target, threads)
+
+
+def scaling():
+    points = np.array(SAMPLES[:90:6])
+    n, bend = len(points), 1.0 + 0.1 * np.sin(np.arange(len(points)))
+    table = np.linalg.norm(points[:, None] - points, axis=2) * np.outer(bend, bend)
+    pairs = gx.create_sparse_dist_matrix(table, 6, n, 5)
+    yield "create_sparse_dist_matrix", [(pair.i, pair.j, pair.d) for pair in pairs]
+    few = gx.create_sparse_dist_matrix(table, 2, 3, 5)
+    yield "create_sparse_dist_matrix.few", [(pair.i, pair.j, pair.d) for pair in few]
+    tree = gx.create_minimum_spanning_tree(table.round(-1))  # with ties
+    yield "create_minimum_spanning_tree", [(pair.i, pair.j, pair.d) for pair in tree]
+    forms = {"plain": {}, "mean": {"optimize_mean": True}, "sphere": {"do_sphering": True}}
+    run = {"n_iterations": 20, "ntries": 2}
+    for threads in (1, 3):
+        for name, form in forms.items():
+            found = gx.dense_MDS(3, n, table, n_threads=threads, **run, **form)
+            yield f"dense_MDS.{name}.{threads}", found
+        yield f"sparse_MDS.{threads}", gx.sparse_MDS(3, n, pairs, n_threads=threads, **run)
+    # Moves are a thread's own: a search repeats on the same number of them.
+    triples = [(pair.i, pair.j, pair.d) for pair in pairs]
+    guess = np.float32(points[:, ::-1])
+    for size in (1, 5, 100):
+        search = gx.mds_using_random_search(3, guess, triples, [9, 1], 20, 50, 1, max_size=size)
+        yield f"mds_using_random_search.{size}", search
+
+
+def geodesics():
+    yield "create_random_dense_set", gx.create_random_dense_set(SAMPLES, NEIGHBORHOOD, 0.3, 900, 6)
+    flood = gx.flood_fill_using_ball(TARGETS, 7, NEIGHBORHOOD, 0.3)
+    yield "flood_fill_using_ball", flood
+    dense = gx.create_random_dense_set(SAMPLES, NEIGHBORHOOD, 0.3, 900, 6)
+    hood, locs = gx.Neighborhood(dense, ELLIPSOID), SAMPLES[::9]
+    for name, rest in {"count": (hood, 0.0, 8, dense), "radius": (hood, 0.4, 0, dense)}.items():
+        yield f"compute_geodesics.{name}", gx.compute_geodesics(locs, 0, 7, *rest)
+        yield f"compute_geodesics.every.{name}", gx.compute_geodesics(locs, 2, -1, *rest)
+        for threads in (1, 3):
+            table = gx.compute_geodesic_based_distance_matrix(locs, *rest, threads)
+            yield f"compute_geodesic_based_distance_matrix.{name}.{threads}", table
+
+
 FAMILIES = (
     samplers,
     ellipsoids,
@@ -511,6 +594,10 @@ FAMILIES = (
     fits,
     ensembles,
     transforms,
+    projections,
+    isomorphisms,
+    scaling,
+    geodesics,
 )
 
 

@@ -77,7 +77,7 @@ least_squares_problem::least_squares_problem(parameter_blocks start) : blocks_(s
   options.evaluation_callback = this;
   problem_ = std::make_unique<ceres::Problem>(options);
   for (std::vector<double>& block : blocks_) {
-    problem_->AddParameterBlock(block.data(), static_cast<int>(block.size()));
+    problem_->AddParameterBlock(block.data(), to_int(block.size()));
     block_pointers_.push_back(block.data());
   }
 }

@@ -14,6 +14,7 @@
 #include <utility>
 #include <vector>
 
+#include "common/integer.hpp"
 #include "common/report.hpp"
 
 namespace gravelox::detail {
@@ -70,7 +71,7 @@ class least_squares_problem : private ceres::EvaluationCallback {
     auto cost = std::make_unique<ceres::DynamicAutoDiffCostFunction<Functor, derivative_stride>>(
         functor.release());
     for (const std::vector<double>& block : blocks_) {
-      cost->AddParameterBlock(static_cast<int>(block.size()));
+      cost->AddParameterBlock(to_int(block.size()));
     }
     cost->SetNumResiduals(n_residuals);
     add_cost(std::move(cost), loss_scale);

@@ -59,6 +59,21 @@ void bind_point_maps(py::module_& m) {
   def_project(radial);
 }
 
+// Another thread may set the map's fields while this one runs without the interpreter lock: both
+// forms work on a copy.
+
+point project_point(const Optimized_nd_projection& self, const point_array& x) {
+  const Optimized_nd_projection map = self;
+  const py::gil_scoped_release without_gil;
+  return map.project(x.values);
+}
+
+point_list project_list(const Optimized_nd_projection& self, const point_list& X, int n_threads) {
+  const Optimized_nd_projection map = self;
+  const py::gil_scoped_release without_gil;
+  return map.project(X, n_threads);
+}
+
 void bind_optimized_projection(py::module_& m) {
   py::class_<Optimized_nd_projection> map(m, "OptimizedNDProjection", docs::optimized_projection);
   map.def(py::init([](const point_list& centers, const values& scales, const point_list& weights) {
@@ -70,7 +85,8 @@ void bind_optimized_projection(py::module_& m) {
       .def_readwrite("scales", &Optimized_nd_projection::scales, docs::optimized_projection_scales)
       .def_readwrite("weights", &Optimized_nd_projection::weights,
                      docs::optimized_projection_weights);
-  def_project(map);
+  map.def("project", &project_point, arg("x"), docs::project_point)
+      .def("project", &project_list, arg("X"), arg("n_threads") = 0, docs::project_list);
   map.def_static("optimize", &Optimized_nd_projection::optimize, arg("source"), arg("target"),
                  arg("n_centers"), arg("din"), arg("dout"), arg("n_threads"), arg("n_iterations"),
                  arg("debug") = false, arg("seed") = 12345, release_gil(),
@@ -91,11 +107,11 @@ Isomorphism create_isomorphism(const Isomorphism::serialized& parameters,
                               std::string(py::repr(state)).substr(0, 100));
 }
 
-/// A part of a pickled state, where it is one.
+/// A part of a pickled state, where it is one; words are texts, not bytes.
 template <typename T>
 T part_of_state(const py::handle& state, const py::handle& part, const char* expected) {
   py::detail::make_caster<T> caster;
-  if (!caster.load(part, true)) refuse_state(expected, state);
+  if (py::isinstance<py::bytes>(part) || !caster.load(part, true)) refuse_state(expected, state);
   return py::detail::cast_op<T>(std::move(caster));
 }
 

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "common/checks.hpp"
 #include "common/integer.hpp"
@@ -30,9 +31,15 @@ paired_points::paired_points(const point_list& source, const point_list& target,
 std::pair<Eigen::Index, double> paired_points::nearest_source(const point& x) const {
   constexpr double farthest = 1e30;
   std::pair<Eigen::Index, double> nearest{-1, farthest};
+  double least_square = std::numeric_limits<double>::infinity();
   for (Eigen::Index i = 0; i < source_.cols(); ++i) {
-    const double d = (x - source_.col(i)).norm();
-    if (d < nearest.second) nearest = {i, d};
+    const double square = (x - source_.col(i)).squaredNorm();
+    if (!(square < least_square)) continue;
+    const double d = std::sqrt(square);
+    if (d < nearest.second) {
+      nearest = {i, d};
+      least_square = square;
+    }
   }
   if (nearest.first < 0) refuse("x", "a point within 1e30 of a source point", "none within it");
   return nearest;

@@ -55,7 +55,8 @@ class paired_points {
   std::size_t K_;
 };
 
-/// The mean of the selected images with the weights 1 / (D + 1e-10)^power_a.
+/// The mean of the selected images with the weights 1 / (D + 1e-10)^power_a. All three constructors
+/// refuse what paired_points does.
 class IDW_projection : public point_map {
  public:
   IDW_projection(const point_list& source, const point_list& target, double power_a, double wp,

@@ -16,10 +16,6 @@ namespace gravelox {
 
 namespace {
 
-double symmetric_distance(const distance_table& D, std::size_t i, std::size_t j) {
-  return (D[i][j] + D[j][i]) / 2.0;
-}
-
 /// A spanning forest that grows by the nearest point outside of it.
 class growing_forest {
  public:

@@ -3,6 +3,7 @@
 
 // Sparse lists of pairs out of full tables of distances.
 
+#include <cstddef>
 #include <vector>
 
 namespace gravelox {
@@ -17,6 +18,10 @@ struct dist_pair {
 /// A table of distances, a row for each point. Where it is not symmetric, the mean of both
 /// directions counts.
 using distance_table = std::vector<std::vector<double>>;
+
+inline double symmetric_distance(const distance_table& D, std::size_t i, std::size_t j) {
+  return (D[i][j] + D[j][i]) / 2.0;
+}
 
 /// Throws std::invalid_argument, for an argument of this name, unless the table is square.
 void check_square(const char* name, const distance_table& D);

@@ -110,8 +110,8 @@ class stored_edges {
 };
 
 /// Shortest paths from one node. Of nodes at the same distance the one with the greater number is
-/// settled first.
-class shortest_paths {
+/// settled first. Aligned, so that the heaps of two threads share no line of the cache.
+class alignas(64) shortest_paths {
  public:
   template <typename Edges>
   void search(Edges& edges, std::size_t start, int end) {

@@ -51,7 +51,8 @@ geodesic compute_geodesics(const location_list& locs, int start, int end,
 /// The lengths of the shortest paths between all locs: entry (i, j) starts at i. 1e30 stands where
 /// there is no path; the table need not be symmetric, since one point can be among the nearest of
 /// another and not the other way round. The graph is made once, then there is one search a
-/// location. Does not depend on n_threads.
+/// location. Does not depend on n_threads. Throws as compute_geodesics does, and for a graph that
+/// no memory holds.
 std::vector<std::vector<double>> compute_geodesic_based_distance_matrix(
     const location_list& locs, const Neighborhood& dense_nei, double eps, int knn,
     const location_list& dense_set, int n_threads = 0);

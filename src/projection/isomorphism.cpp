@@ -21,6 +21,8 @@ namespace gravelox {
 
 namespace {
 
+/// Centre, scale, weight.
+/// A centre, a scale, and a weight.
 constexpr std::size_t n_per_center = 3;
 
 /// The image of x under n triples of parameters.
@@ -64,33 +66,42 @@ struct ProjectionResidual {
   }
 };
 
-void check_bounds(const std::string& name, const parameter_bounds& bounds) {
-  check_finite("min_" + name, bounds.least);
-  check_finite("max_" + name, bounds.greatest);
+/// Of the arguments min_<name> and max_<name>, with what the form of the call adds to them.
+void check_bounds(const std::string& name, const parameter_bounds& bounds,
+                  const std::string& suffix = "") {
+  const std::string least = "min_" + name + suffix;
+  const std::string greatest = "max_" + name + suffix;
+  check_finite(least, bounds.least);
+  check_finite(greatest, bounds.greatest);
   if (bounds.least > bounds.greatest) {
-    refuse("max_" + name, text_of("at least min_", name, ", ", bounds.least), bounds.greatest);
+    refuse(greatest, text_of("at least ", least, ", ", bounds.least), bounds.greatest);
   }
 }
 
 void check_fit(const std::vector<double>& source, const std::vector<double>& target,
-               const projection_shape& shape, const projection_fit& fit) {
+               const projection_fit& fit) {
   check_not_empty("source", source.size());
   check_same_size("target", target.size(), source.size(), "source value");
   check_finite("source", source);
   check_finite("target", target);
-  check_at_least("n_centers", shape.n_centers, 1);
   check_bounds("weight", fit.weight);
-  check_bounds("beta", shape.beta);
   check_bounds("center", fit.center);
   check_at_least("n_partitions", fit.n_partitions, 0);
   check_at_least("min_partition_size", fit.min_partition_size, 0);
   check_at_least("max_partition_size", fit.max_partition_size, fit.min_partition_size);
-  check_not_nan("cauchy_loss", fit.cauchy_loss);
+  check_finite("cauchy_loss", fit.cauchy_loss);
   check_at_least("n_iterations", fit.n_iterations, 0);
-  const double most =
-      std::min(static_cast<double>(source.size()), fit.max_partition_size + 1.0) + 1.0;
-  check_memory("n_partitions",
-               detail::memory_of_fit(fit.n_partitions * most, 3.0 * shape.n_centers));
+}
+
+void check_shape(const projection_shape& shape, const projection_fit& fit, std::size_t n_samples,
+                 const std::string& suffix = "") {
+  check_at_least("n_centers" + suffix, shape.n_centers, 1);
+  check_bounds("beta", shape.beta, suffix);
+  const double largest =
+      std::min(static_cast<double>(n_samples), fit.max_partition_size + 1.0) + 1.0;
+  const double n_parameters = 3.0 * shape.n_centers;
+  check_memory("n_centers" + suffix, n_parameters);
+  check_memory("n_partitions", detail::memory_of_fit(fit.n_partitions * largest, n_parameters));
 }
 
 std::size_t draw_sample(std::size_t n, random_engine& engine) { return engine() % n; }
@@ -115,7 +126,33 @@ std::size_t draw_size(std::size_t n, const projection_fit& fit, random_engine& e
   return size >= n ? n - 1 : size;
 }
 
-/// The same samples for both projections.
+/// Of arguments that have been checked.
+Projection fit_projection(const std::vector<double>& source, const std::vector<double>& target,
+                          const projection_shape& shape, const projection_fit& fit) {
+  random_engine engine = create_engine(fit.seed);
+  const double inv_std = 1.0 / compute_moments(source).deviation;
+  const std::size_t n_centers = to_size(shape.n_centers);
+  detail::least_squares_problem problem(start_parameters(source, target, shape, engine));
+  for (int k = 0; k < fit.n_partitions; ++k) {
+    ProjectionResidual partition{inv_std, {}, {}, n_centers, shape.kernel};
+    const std::size_t size = draw_size(source.size(), fit, engine);
+    for (std::size_t i = 0; i < size; ++i) {
+      const std::size_t sample = draw_sample(source.size(), engine);
+      partition.source.push_back(source[sample]);
+      partition.target.push_back(target[sample]);
+    }
+    problem.add(partition, to_int(size + 1), fit.cauchy_loss);
+  }
+  for (std::size_t i = 0; i < n_centers; ++i) {
+    problem.set_bounds(n_per_center * i, fit.center.least, fit.center.greatest);
+    problem.set_bounds(n_per_center * i + 1, shape.beta.least, shape.beta.greatest);
+    problem.set_bounds(n_per_center * i + 2, fit.weight.least, fit.weight.greatest);
+  }
+  problem.solve({fit.n_iterations, fit.n_threads, fit.debug, print_to_output});
+  return Projection(problem.parameters(), shape.kernel);
+}
+
+/// A map with gaps, as a compact kernel leaves them, has no way back.
 void check_images(const std::vector<double>& images) {
   for (std::size_t i = 0; i < images.size(); ++i) {
     if (!std::isfinite(images[i])) {
@@ -190,28 +227,9 @@ std::vector<double> Isomorphism::backward(const std::vector<double>& u, int n_th
 
 Projection optimize_projection(const std::vector<double>& source, const std::vector<double>& target,
                                const projection_shape& shape, const projection_fit& fit) {
-  check_fit(source, target, shape, fit);
-  random_engine engine = create_engine(fit.seed);
-  const double inv_std = 1.0 / compute_moments(source).deviation;
-  const std::size_t n_centers = to_size(shape.n_centers);
-  detail::least_squares_problem problem(start_parameters(source, target, shape, engine));
-  for (int k = 0; k < fit.n_partitions; ++k) {
-    ProjectionResidual partition{inv_std, {}, {}, n_centers, shape.kernel};
-    const std::size_t size = draw_size(source.size(), fit, engine);
-    for (std::size_t i = 0; i < size; ++i) {
-      const std::size_t sample = draw_sample(source.size(), engine);
-      partition.source.push_back(source[sample]);
-      partition.target.push_back(target[sample]);
-    }
-    problem.add(partition, to_int(size + 1), fit.cauchy_loss);
-  }
-  for (std::size_t i = 0; i < n_centers; ++i) {
-    problem.set_bounds(n_per_center * i, fit.center.least, fit.center.greatest);
-    problem.set_bounds(n_per_center * i + 1, shape.beta.least, shape.beta.greatest);
-    problem.set_bounds(n_per_center * i + 2, fit.weight.least, fit.weight.greatest);
-  }
-  problem.solve({fit.n_iterations, fit.n_threads, fit.debug, print_to_output});
-  return Projection(problem.parameters(), shape.kernel);
+  check_fit(source, target, fit);
+  check_shape(shape, fit, source.size());
+  return fit_projection(source, target, shape, fit);
 }
 
 Isomorphism optimize_isomorphism(const std::vector<double>& source,
@@ -219,12 +237,15 @@ Isomorphism optimize_isomorphism(const std::vector<double>& source,
                                  const projection_shape& forward_shape,
                                  const projection_shape& backward_shape,
                                  const projection_fit& fit) {
-  Projection forward_proj = optimize_projection(source, target, forward_shape, fit);
+  check_fit(source, target, fit);
+  check_shape(forward_shape, fit, source.size(), "_forward");
+  check_shape(backward_shape, fit, source.size(), "_backward");
+  Projection forward_proj = fit_projection(source, target, forward_shape, fit);
   const std::vector<double> mapped = forward_proj.forward(source, fit.n_threads);
   check_images(mapped);
   projection_fit fit_back = fit;
   std::swap(fit_back.weight, fit_back.center);
-  Projection backward_proj = optimize_projection(mapped, source, backward_shape, fit_back);
+  Projection backward_proj = fit_projection(mapped, source, backward_shape, fit_back);
   return {std::move(forward_proj), std::move(backward_proj)};
 }
 
@@ -235,6 +256,9 @@ Isomorphism optimize_isomorphism(const std::vector<double>& source_data,
   const parameter_bounds target_range = range_of("target_data", target_data);
   check_same_size("target_data", target_data.size(), source_data.size(), "source value");
   check_at_least("n_partitions", iso_params.n_partitions, 1);
+  check_finite("weight_tol", iso_params.weight_tol);
+  check_finite("center_tol", iso_params.center_tol);
+  check_bounds("beta", {iso_params.min_beta, iso_params.max_beta});
   const auto betas = [&](const parameter_bounds& range) {
     const double length = range.greatest - range.least;
     return parameter_bounds{iso_params.min_beta / length, iso_params.max_beta / length};

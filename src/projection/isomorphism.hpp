@@ -11,7 +11,8 @@
 
 namespace gravelox {
 
-/// The mean of weights w_i under kernel(|x - c_i| s_i), with centres c_i and scales s_i.
+/// The mean of weights w_i under kernel(|x - c_i| s_i), with centres c_i and scales s_i. The kernel
+/// is that of differentiable models, whose nugget ends at 1e-30.
 class Projection {
  public:
   /// Triples (centre, scale, weight), one after another; a rest of one or two numbers is lost.
@@ -42,6 +43,7 @@ class Isomorphism {
   /// The triples of both projections.
   using serialized = std::pair<std::vector<double>, std::vector<double>>;
 
+  /// Both with one kernel, or any two projections.
   explicit Isomorphism(const serialized& parameters,
                        covariance_type kernel = covariance_type::exponential);
   Isomorphism(Projection forward_proj, Projection backward_proj);
@@ -50,6 +52,7 @@ class Isomorphism {
   const Projection& forward_proj() const { return forward_proj_; }
   const Projection& backward_proj() const { return backward_proj_; }
 
+  /// The images under the two projections; lists do not depend on n_threads.
   double forward(double u) const { return forward_proj_.forward(u); }
   double backward(double u) const { return backward_proj_.forward(u); }
   std::vector<double> forward(const std::vector<double>& u, int n_threads = 0) const;
@@ -98,13 +101,16 @@ struct projection_shape {
 /// solver's report is printed on the standard output with `debug`. Does not depend on n_threads.
 ///
 /// Throws std::invalid_argument for lists that are empty, of different sizes or not finite, counts
-/// below 1 (n_partitions, n_iterations, min_partition_size: below 0), and bounds or sizes whose
-/// least lies above their greatest.
+/// below 1 (n_partitions, n_iterations, min_partition_size: below 0), bounds or sizes whose least
+/// lies above their greatest, a cauchy_loss that is not finite, and sizes that no memory holds.
 Projection optimize_projection(const std::vector<double>& source, const std::vector<double>& target,
                                const projection_shape& shape, const projection_fit& fit);
 
 /// Fits a projection forward, and one backward from the images that it gives, not from the targets.
 /// The bounds of weights and centres change places for the second.
+///
+/// Throws as optimize_projection does, and where the fitted projection maps a source to no finite
+/// number, as those of compact kernels and nuggets may.
 Isomorphism optimize_isomorphism(const std::vector<double>& source,
                                  const std::vector<double>& target,
                                  const projection_shape& forward_shape,

@@ -10,6 +10,8 @@
 #include <memory>
 #include <vector>
 
+#include "common/integer.hpp"
+
 namespace gravelox::detail {
 
 /// How the solver runs; without `debug` its log is quiet too.
@@ -23,8 +25,8 @@ struct numeric_fit_settings {
 };
 
 /// Fits the blocks, in place, to one block of residuals, and returns the final cost; NaN where the
-/// solver gave up before the first step. With one block of residuals there is one order of sums,
-/// so a fit does not depend on the solver's threads.
+/// solver gave up before the first step. With one block of residuals the solver library (2.1) has
+/// one order of sums, so a fit does not depend on its threads.
 double fit_numerically(std::unique_ptr<ceres::CostFunction> cost,
                        std::vector<std::vector<double>>& blocks,
                        const numeric_fit_settings& settings);
@@ -37,7 +39,7 @@ double fit_numerically(const Functor& functor, int n_residuals,
   auto cost = std::make_unique<ceres::DynamicNumericDiffCostFunction<Functor, ceres::CENTRAL>>(
       new Functor(functor));
   for (const std::vector<double>& block : blocks) {
-    cost->AddParameterBlock(static_cast<int>(block.size()));
+    cost->AddParameterBlock(to_int(block.size()));
   }
   cost->SetNumResiduals(n_residuals);
   return fit_numerically(std::move(cost), blocks, settings);

@@ -23,6 +23,9 @@ double gaussian(const Eigen::Ref<const point>& a, const Eigen::Ref<const point>&
   return std::exp(-3.0 * d * d);
 }
 
+/// Doubles of the system of this many centres, and of its decomposition.
+double memory_of_system(double n_centers) { return 2.0 * (n_centers + 1.0) * (n_centers + 1.0); }
+
 /// The map with its system decomposed. Centres and weights are columns.
 class decomposed_map {
  public:
@@ -57,6 +60,7 @@ class decomposed_map {
 
 decomposed_map decompose(const Optimized_nd_projection& map) {
   check_same_size("weights", map.weights.size(), map.centers.size(), "centre");
+  check_memory("centers", memory_of_system(static_cast<double>(map.centers.size())));
   return {columns_of("centers", map.centers), columns_of("weights", map.weights)};
 }
 
@@ -96,13 +100,6 @@ void append_random_point(const Eigen::MatrixXd& points, random_engine& engine,
   }
 }
 
-point_list points_of(const std::vector<double>& block, Eigen::Index dimension, Eigen::Index n) {
-  const Eigen::MatrixXd all = columns(block.data(), dimension, n);
-  point_list points;
-  for (Eigen::Index i = 0; i < n; ++i) points.emplace_back(all.col(i));
-  return points;
-}
-
 }  // namespace
 
 point Optimized_nd_projection::project(const point& x) const {
@@ -134,7 +131,9 @@ Optimized_nd_projection Optimized_nd_projection::optimize(const point_list& sour
   const Eigen::MatrixXd sources = columns_of("source", source);
   const Eigen::MatrixXd targets = columns_of("target", target);
   const double n_residuals = static_cast<double>(source.size()) * dout;
-  check_memory("n_centers", 3.0 * n_residuals * (n_centers * (static_cast<double>(din) + dout)));
+  const double n_parameters = n_centers * (static_cast<double>(din) + dout);
+  check_memory("n_centers", 3.0 * n_residuals * n_parameters + 2.0 * n_parameters * n_parameters +
+                                memory_of_system(n_centers));
 
   random_engine engine = create_engine(seed);
   std::vector<std::vector<double>> blocks{{}, {0.0}, {}};
@@ -147,9 +146,9 @@ Optimized_nd_projection Optimized_nd_projection::optimize(const point_list& sour
   detail::fit_numerically(residual, to_int(source.size() * to_size(dout)), blocks,
                           {n_iterations, n_threads, debug});
 
-  Optimized_nd_projection map{points_of(blocks[0], din, n_centers),
+  Optimized_nd_projection map{points_of(columns(blocks[0].data(), din, n_centers)),
                               std::vector<double>(to_size(n_centers), 0.0),
-                              points_of(blocks[2], dout, n_centers)};
+                              points_of(columns(blocks[2].data(), dout, n_centers))};
   map.scales[0] = blocks[1][0];
   return map;
 }

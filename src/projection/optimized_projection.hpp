@@ -40,8 +40,8 @@ struct Optimized_nd_projection {
   /// where the solver leaves it. Does not depend on n_threads.
   ///
   /// Throws std::invalid_argument for empty lists, different numbers of sources and targets, points
-  /// that have not din and dout coordinates, coordinates that are not finite, and n_centers, din or
-  /// dout below 1.
+  /// that have not din and dout coordinates, coordinates that are not finite, n_centers, din or
+  /// dout below 1, a negative n_iterations, and sizes that no memory holds.
   static Optimized_nd_projection optimize(const point_list& source, const point_list& target,
                                           int n_centers, int din, int dout, int n_threads,
                                           int n_iterations, bool debug = false, int seed = 12345);

@@ -45,6 +45,12 @@ Eigen::MatrixXd columns_of(std::string_view name, const point_list& points) {
   return columns;
 }
 
+point_list points_of(const Eigen::Ref<const Eigen::MatrixXd>& columns) {
+  point_list points;
+  for (Eigen::Index i = 0; i < columns.cols(); ++i) points.emplace_back(columns.col(i));
+  return points;
+}
+
 point point_map::project(const point& x) const {
   check_point("x", x, dimension());
   return image(x);

@@ -17,6 +17,9 @@ using point_list = std::vector<point>;
 /// an empty list, points of different dimensions, and coordinates that are not finite.
 Eigen::MatrixXd columns_of(std::string_view name, const point_list& points);
 
+/// The columns as points.
+point_list points_of(const Eigen::Ref<const Eigen::MatrixXd>& columns);
+
 /// Throws std::invalid_argument for a point of another dimension or one that is not finite.
 void check_point(std::string_view name, const point& x, Eigen::Index dimension);
 void check_points(std::string_view name, const point_list& points, Eigen::Index dimension);

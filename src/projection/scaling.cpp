@@ -11,7 +11,6 @@
 #include "common/memory.hpp"
 #include "common/parallel_for.hpp"
 #include "common/random.hpp"
-#include "common/text.hpp"
 #include "projection/numeric_fit_detail.hpp"
 
 namespace gravelox {
@@ -54,7 +53,7 @@ struct dense_mds_residual {
     const int threads = detail::threads_of_evaluation(n * n / 2, n_threads);
     parallel_for(n, threads, [&](std::size_t i, int /*thread_number*/) {
       for (std::size_t j = i; j < n; ++j) {
-        const double d = (D[i][j] + D[j][i]) / 2.0;
+        const double d = symmetric_distance(D, i, j);
         const bool counts = j != i && is_known(d);
         const double error =
             counts ? relative_error(points.col(to_index(i)), points.col(to_index(j)), d) : 0.0;
@@ -109,13 +108,8 @@ class multi_start {
   multi_start(int dim, int N, const point_list& initial_guess, const scaling_settings& settings)
       : dim_(dim), N_(N), settings_(settings) {
     if (initial_guess.size() != to_size(N)) return;
-    for (std::size_t i = 0; i < initial_guess.size(); ++i) {
-      if (initial_guess[i].size() != dim) {
-        refuse("initial_guess", text_of("points of dim = ", dim, " coordinates"),
-               text_of(initial_guess[i].size(), " at position ", i));
-      }
-      guess_.insert(guess_.end(), initial_guess[i].begin(), initial_guess[i].end());
-    }
+    check_points("initial_guess", initial_guess, dim);
+    for (const point& x : initial_guess) guess_.insert(guess_.end(), x.begin(), x.end());
   }
 
   /// fit(coordinates) fits them in place and returns the cost.
@@ -130,7 +124,7 @@ class multi_start {
       const double cost = fit(coordinates);
       if (best_cost > cost) {
         best_cost = cost;
-        best_points = points_of(coordinates);
+        best_points = points_of(configuration(coordinates.data(), dim_, N_));
       }
       if (best_cost < settings_.eps) break;
     }
@@ -145,25 +139,23 @@ class multi_start {
     return coordinates;
   }
 
-  point_list points_of(const std::vector<double>& coordinates) const {
-    const configuration all(coordinates.data(), dim_, N_);
-    point_list points;
-    for (Eigen::Index i = 0; i < N_; ++i) points.emplace_back(all.col(i));
-    return points;
-  }
-
   int dim_;
   int N_;
   const scaling_settings& settings_;
   std::vector<double> guess_;
 };
 
-void check_sizes(int dim, int N, const scaling_settings& settings, double n_residuals) {
+void check_sizes(int dim, int N, const scaling_settings& settings) {
+  check_at_least("dim", dim, 1);
+  check_at_least("N", N, 1);
   check_at_least("n_iterations", settings.n_iterations, 0);
   check_not_nan("eps", settings.eps);
+}
+
+/// The Jacobian, and the equations of all coordinates.
+void check_memory_of_fit(int dim, int N, double n_residuals) {
   const double n_parameters = static_cast<double>(dim) * N;
-  check_memory("N", n_parameters);
-  check_memory("N", 3.0 * n_residuals * n_parameters);
+  check_memory("dim x N", 3.0 * n_residuals * n_parameters + 2.0 * n_parameters * n_parameters);
 }
 
 }  // namespace
@@ -171,12 +163,11 @@ void check_sizes(int dim, int N, const scaling_settings& settings, double n_resi
 point_list dense_MDS(int dim, int N, const distance_table& D, const point_list& initial_guess,
                      const scaling_settings& settings, bool optimize_mean, bool do_sphering,
                      double sphering_weight) {
-  check_at_least("dim", dim, 1);
-  check_at_least("N", N, 1);
+  check_sizes(dim, N, settings);
   check_same_size("D", D.size(), to_size(N), "point (N)");
   check_square("D", D);
   const int n_residuals = optimize_mean ? 1 : to_int(to_size(N) * to_size(N));
-  check_sizes(dim, N, settings, n_residuals);
+  check_memory_of_fit(dim, N, n_residuals);
   const multi_start tries(dim, N, initial_guess, settings);
 
   double dmax = 0.0;
@@ -206,14 +197,13 @@ point_list dense_MDS(int dim, int N, const distance_table& D, const point_list& 
 
 point_list sparse_MDS(int dim, int N, const std::vector<dist_pair>& D,
                       const point_list& initial_guess, const scaling_settings& settings) {
-  check_at_least("dim", dim, 1);
-  check_at_least("N", N, 1);
+  check_sizes(dim, N, settings);
   check_not_empty("D", D.size());
   for (const dist_pair& pair : D) {
     check_index("D", pair.i, to_size(N));
     check_index("D", pair.j, to_size(N));
   }
-  check_sizes(dim, N, settings, static_cast<double>(D.size()));
+  check_memory_of_fit(dim, N, static_cast<double>(D.size()));
   const multi_start tries(dim, N, initial_guess, settings);
 
   double dmax = 0.0;

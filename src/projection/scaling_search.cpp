@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <map>
+#include <string>
 #include <utility>
 
 #include "common/checks.hpp"
@@ -197,7 +198,7 @@ class competition {
   const configuration& best() const { return best_; }
 
   void run() {
-    for (int iteration = 1; iteration <= settings_.n_iterations; ++iteration) {
+    for (std::int64_t iteration = 1; iteration <= settings_.n_iterations; ++iteration) {
       const bool is_thousandth = iteration % 1000 == 0;
       try_moves();
       if (is_thousandth) sum_up();
@@ -245,7 +246,7 @@ class competition {
 
   /// Moves shrink with the mean error; true once that is below its target. Both belong to the
   /// report: a run without it does neither.
-  bool report(int iteration, bool is_due) {
+  bool report(std::int64_t iteration, bool is_due) {
     if (!is_due && !(seconds_since(last_report_) > 1.000000001)) return false;
     last_report_ = clock::now();
     const double mean = mean_absolute_error(best_, pairs_);
@@ -257,7 +258,7 @@ class competition {
     return true;
   }
 
-  bool is_late(int iteration) const {
+  bool is_late(std::int64_t iteration) const {
     if (!(seconds_since(start_) > std::trunc(settings_.time_limit) + 1.0)) return false;
     if (settings_.debug) {
       print_to_output(text_of("Stopping due to time limit at iteration ", iteration));
@@ -277,6 +278,27 @@ class competition {
   clock::time_point last_report_ = start_;
 };
 
+void check_guess(const float_point_list& initial_guess, int dim) {
+  for (std::size_t i = 0; i < initial_guess.size(); ++i) {
+    const std::string where = text_of(" at position ", i);
+    const Eigen::Index size = initial_guess[i].size();
+    if (size != dim) {
+      refuse("initial_guess", text_of("points of ", dim, " coordinates"), text_of(size, where));
+    }
+    if (!initial_guess[i].allFinite()) {
+      refuse("initial_guess", "finite coordinates", text_of(initial_guess[i].transpose(), where));
+    }
+  }
+}
+
+void check_triples(const std::vector<distance_triple>& D, std::size_t n_points) {
+  for (const auto& [i, j, d] : D) {
+    check_index("D", i, n_points);
+    check_index("D", j, n_points);
+    if (!std::isfinite(static_cast<float>(d))) refuse("D", "finite distances of 32 bits", d);
+  }
+}
+
 }  // namespace
 
 float_point_list mds_using_random_search(int dim, const float_point_list& initial_guess,
@@ -289,18 +311,10 @@ float_point_list mds_using_random_search(int dim, const float_point_list& initia
   check_at_least("max_size", settings.max_size, 1);
   check_not_nan("time_limit", settings.time_limit);
   const std::size_t n = initial_guess.size();
+  check_guess(initial_guess, dim);
+  check_triples(D, n);
   configuration guess(dim, to_index(n));
-  for (std::size_t i = 0; i < n; ++i) {
-    if (initial_guess[i].size() != dim) {
-      refuse("initial_guess", text_of("points of dim = ", dim, " coordinates"),
-             text_of(initial_guess[i].size(), " at position ", i));
-    }
-    guess.col(to_index(i)) = initial_guess[i];
-  }
-  for (const auto& [i, j, d] : D) {
-    check_index("D", i, n);
-    check_index("D", j, n);
-  }
+  for (std::size_t i = 0; i < n; ++i) guess.col(to_index(i)) = initial_guess[i];
 
   const adjacency pairs(n, D);
   competition search(guess, pairs, max_distortions, settings);

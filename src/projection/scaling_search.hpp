@@ -50,9 +50,9 @@ struct scaling_search_settings {
 /// Draws of a try, from its thread's engine: the distortion, the number of points, the points, and
 /// the normals of each moved point. Results depend on the number of threads.
 ///
-/// Throws std::invalid_argument for an empty guess, one whose points have not dim coordinates,
-/// places outside of it, empty max_distortions, a max_size below 1, and a time limit that is not a
-/// number.
+/// Throws std::invalid_argument for an empty guess, one whose points have not dim finite
+/// coordinates, places outside of it, distances that are not finite, empty max_distortions, a
+/// max_size below 1, and a time limit that is not a number.
 float_point_list mds_using_random_search(int dim, const float_point_list& initial_guess,
                                          const std::vector<distance_triple>& D,
                                          const std::vector<double>& max_distortions,
