@@ -470,10 +470,14 @@ Make the settings of a fit.
 
 Parameters
 ----------
-kernel_forward, kernel_backward : str
-    Words of the kernels, see `Projection`.
-n_centers_forward, n_centers_backward : int
-    Centres, at least 1.
+kernel_forward : str
+    Word of the kernel of the map forward, see `Projection`.
+n_centers_forward : int
+    Its centres, at least 1.
+kernel_backward : str
+    Word of the kernel of the map backward.
+n_centers_backward : int
+    Its centres, at least 1.
 weight_tol, center_tol : float
     How far images may lie beyond the targets, and centres of the map forward beyond the sources, in
     multiples of their ranges. For the map backward they change places.
@@ -549,8 +553,9 @@ Projection
 Raises
 ------
 ValueError
-    If the word is unknown, the lists are empty, differ in length or hold a number that is not
-    finite, `n_centers` is below 1, another count negative, or a least bound above its greatest.
+    If the word is unknown, the lists are empty or differ in length, a number is not finite,
+    `n_centers` is below 1, another count negative, a least bound above its greatest, or the fit
+    does not fit into memory.
 )";
 
 constexpr const char* optimize_isomorphism = R"(

@@ -63,13 +63,13 @@ void bind_point_maps(py::module_& m) {
 // forms work on a copy.
 
 point project_point(const Optimized_nd_projection& self, const point_array& x) {
-  const Optimized_nd_projection map = self;
+  const Optimized_nd_projection map = self;  // NOLINT(performance-unnecessary-copy-initialization)
   const py::gil_scoped_release without_gil;
   return map.project(x.values);
 }
 
 point_list project_list(const Optimized_nd_projection& self, const point_list& X, int n_threads) {
-  const Optimized_nd_projection map = self;
+  const Optimized_nd_projection map = self;  // NOLINT(performance-unnecessary-copy-initialization)
   const py::gil_scoped_release without_gil;
   return map.project(X, n_threads);
 }

@@ -439,7 +439,8 @@ Raises
 ------
 ValueError
     If `dim` or `max_size` is below 1, `initial_guess` or `max_distortions` empty, a point of the
-    guess not of `dim` coordinates, a place outside of it, or `time_limit` NaN.
+    guess not of `dim` coordinates, a place outside of it, a coordinate or distance not finite, or
+    `time_limit` NaN.
 
 Examples
 --------

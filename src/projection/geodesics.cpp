@@ -258,8 +258,9 @@ geodesic compute_geodesics(const location_list& locs, int start, int end,
   shortest_paths paths;
   paths.search(edges, dense_nei.nearest_neighbor(locs[to_size(start)]), b);
 
-  geodesic result{{}, unreachable, std::move(paths.distances)};
+  geodesic result{{}, unreachable, {}};
   auto& [path, length, distances] = result;
+  distances.swap(paths.distances);
   if (b >= 0 && distances[to_size(b)] < unreachable) {
     length = distances[to_size(b)];
     for (int node = b; node >= 0; node = paths.previous[to_size(node)]) {

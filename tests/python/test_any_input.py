@@ -33,6 +33,10 @@ METRICS.insert(0, gravelox.Ellipsoid(9, 4, 2, 10, 20, 30))
 GRID = gravelox.CartesianGrid((1, 1, 1), (2, 2, 1))
 FOLDS = [(FOUR * n, [1.0, 2.0, 3.0, 3.0] * n) for n in (4, 1, 0)]
 SIMPLE["tuple[list[numpy.ndarray[numpy.float64[3, 1]]], list[float]]"] = st.sampled_from(FOLDS)
+SIMPLE["numpy.ndarray[numpy.float32[m, 1]]"] = SIMPLE["numpy.ndarray[numpy.float64[m, 1]]"]
+SIMPLE["tuple[int, int, float]"] = st.tuples(SMALL, SMALL, FLOATS)
+SIMPLE["list[list[float]]"] = st.sampled_from([FOUR[:3], [[1, 1e20], [1, 2]], [[]], []])
+SIMPLE["tuple[list[float], list[float]]"] = st.just((FOUR[0] * 2, FOUR[1]))
 SIMPLE["str"] = st.sampled_from(["gaussian", "spherical", "nugget", ""])
 SIMPLE["Optional[gravelox.Neighborhood]"] = st.none()
 SIMPLE["object"] = st.sampled_from([lambda model, n_threads: len(model), None])
@@ -62,11 +66,18 @@ for made in (gravelox.gaussian_distribution(), gravelox.data_distribution([1, 2,
     OBJECTS += [made, gravelox.PDF(made), gravelox.CDF(made), gravelox.NScore(made, made)]
 MODEL, CHAIN = gravelox.GMMParams(1, [1], [[0, 1, 2]], [np.eye(3)]), gravelox.PPMT(np.tri(3, 4), 3)
 OBJECTS += [MODEL, CHAIN, gravelox.SCT(MODEL), gravelox.GMMFitter(2, 3)]
+ENDS, BELL = (FOUR, FOUR, 1, 0.5, 2), gravelox.Kernel.gaussian
+OBJECTS += [gravelox.IDWProjection(*ENDS), gravelox.GaussianMixtureProjection(*ENDS, BELL)]
+OBJECTS += [gravelox.OKProjection(*ENDS, BELL), gravelox.MDSProjection(*[FOUR] * 3, 1, BELL)]
+OBJECTS += [gravelox.OptimizedNDProjection(FOUR, [], FOUR[n:]) for n in (0, 1)]
+OBJECTS += [gravelox.Projection(FOUR[1]), gravelox.Isomorphism((FOUR[1], []))]
+OBJECTS += [gravelox.IsomorphismParameters(), *[gravelox.DistPair(0, i, 1) for i in (-1, 1)]]
 
 
 def values_of(name, kind):
     """Arguments of a kind, as its signature writes it; what says how much to make stays small."""
-    ends = ("n_samples_by_dh", "size", "nx", "ny", "nz", "max_iter")
+    ends = ("n_samples_by_dh", "size", "nx", "ny", "nz", "max_iter", "dim", "N", "din", "dout")
+    ends += ("ntries", "K_neighbors", "max_pts")
     if kind == "int" and (name.startswith("n_") or name.endswith(ends) or name == "n"):
         return SMALL
     if kind in SIMPLE:

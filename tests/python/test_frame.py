@@ -37,6 +37,11 @@ NAMES = """
     optimize_covariance_using_idw optimize_local_ellipsoids optimize_local_ellipsoids_using_lbfgs
     extract_covariance_from_varmap ensemble_model ensemble_ellipsoid ensemble_local_ellipsoids
     ensemble_estimation ensemble_simulation
+    IDWProjection GaussianMixtureProjection OKProjection MDSProjection OptimizedNDProjection
+    Projection Isomorphism IsomorphismParameters optimize_projection optimize_isomorphism DistPair
+    create_sparse_dist_matrix create_minimum_spanning_tree flood_fill_using_ball
+    create_random_dense_set compute_geodesics compute_geodesic_based_distance_matrix dense_MDS
+    sparse_MDS mds_using_random_search
     fft create_random_rotation create_random_orthogonal_matrix PPMT compute_svd_decomposition
     compute_optimum_rotation GMMParams GMMFitter SCT
     fft.SpectralData1D fft.project_to_line fft.project_back_to_source
@@ -87,6 +92,9 @@ def test_interpreter_lock(rng):
         lambda: gravelox.smooth_variogram(vario, 100, 0, 99, 99, 1, 1, 0, **one),
         lambda: gravelox.kfold_cross_validation_using_ok(locs, data, covs, 9e9, **one),
         lambda: gravelox.PPMT(targets.T, 4, **one),
+        lambda: gravelox.IDWProjection(locs, locs, 1, 0.5, 9).project(targets),
+        lambda: gravelox.compute_geodesic_based_distance_matrix(locs, hood, 0, 9, locs, **one),
+        lambda: gravelox.mds_using_random_search(3, locs, [(0, 1, 1.0)], [1], 999, 50, **one),
     ):
         assert runs_beside(call)
     for call in (

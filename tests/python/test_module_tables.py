@@ -84,6 +84,29 @@ PPMT, ROWS = gravelox.PPMT, DATA.lognormal(size=(3, 300))
 PARALLEL["PPMT.__init__"] = lambda n_threads: PPMT(ROWS, 9, 0.37, n_threads).forward(ROWS, 1)
 for name in ("forward", "backward"):
     PARALLEL[f"PPMT.{name}"] = partial(getattr(PPMT(ROWS, 9), name), DATA.normal(size=(3, 300)))
+Blends = gravelox.IDWProjection, gravelox.GaussianMixtureProjection, gravelox.OKProjection
+Radial, MDS, Pair = gravelox.OptimizedNDProjection, gravelox.MDSProjection, gravelox.DistPair
+KERNEL, ENDS, NINE = gravelox.Kernel.gaussian, (SAMPLES / 10, SAMPLES**2), SAMPLES[:9] / 10
+MAPS = [make(*ENDS, 1, 0.5, 9, *[KERNEL][:i]) for i, make in enumerate(Blends)]
+MAPS += [MDS(*ENDS, NINE, 1, KERNEL), Radial(NINE, [], NINE)]
+PARALLEL.update((f"{type(m).__name__}.project", partial(m.project, TARGETS / 10)) for m in MAPS)
+curve, curves = gravelox.optimize_projection, gravelox.optimize_isomorphism
+XY, THERE, PARTITIONS = SAMPLES[:, :2].T, ("gaussian", 9, 0.01, 0.1), (20, 50, 99, 0, 9)
+RUN = *THERE[:2], -99, 99, *THERE[2:], -99, 99, *PARTITIONS
+RUNS, LONG = (*THERE, *THERE, *[-99, 99] * 2, *PARTITIONS), (HOOD, 1, 5, SAMPLES)
+PARALLEL[curve.__name__] = lambda **n: curve(*XY, *RUN, **n).serialize()
+PARALLEL[curves.__name__] = lambda **n: curves(*XY, *RUNS, **n).serialize()
+PARALLEL["Projection.forward"] = partial(gravelox.Projection(VALUES).forward, VALUES)
+PARALLEL["Isomorphism.forward"] = partial(gravelox.Isomorphism((VALUES, XY[0])).forward, VALUES)
+PARALLEL["Isomorphism.backward"] = partial(gravelox.Isomorphism((VALUES, XY[0])).backward, VALUES)
+geodesics = gravelox.compute_geodesic_based_distance_matrix
+PARALLEL[geodesics.__name__] = partial(geodesics, TARGETS[:90], *LONG)
+TABLE = abs(VALUES[:100, None] - VALUES[:100])
+PAIRS = [Pair(i, j, TABLE[i, j]) for i, j in np.ndindex(100, 100)]
+for scale, given in ((gravelox.dense_MDS, TABLE), (gravelox.sparse_MDS, PAIRS)):
+    PARALLEL[scale.__name__] = partial(scale, 1, 100, given, n_iterations=1, ntries=1)
+fit_radial = partial(Radial.optimize, *ENDS, 17, 3, 3, n_iterations=1)
+PARALLEL["OptimizedNDProjection.optimize"] = lambda **n: fit_radial(**n).weights
 
 
 def numbers(result):
@@ -101,13 +124,15 @@ def test_the_table_of_threads_is_whole():
     # IDW and its like stand for Estimator.__call__.
     parallel = {o.name for o in OVERLOADS if ("n_threads", "int") in o.arguments}
     known = {*PARALLEL, "Estimator.__call__", "check_n_threads", "set_fft_n_threads"}
-    known |= {f"Ellipsoid{kind}Parameters.__init__" for kind in ("Optimization", "LBFGS")}
+    kinds = "EllipsoidOptimization", "EllipsoidLBFGS", "Isomorphism"
+    known |= {f"{kind}Parameters.__init__" for kind in kinds}
     # Each thread draws candidates, phases or values, or has a share in a sum, of its own.
     own = """optimize_rotation FIM SimulatorFactory.FIM SimulatorGenerator.FIM Distribution.simulate
         kfold_cross_validation_using_idw kfold_cross_validation_using_sk optimize_covariance
         kfold_cross_validation_using_ok multi_scale_cross_validation_error
         compute_ellipsoid_error_idw compute_covariance_error_idw CovarianceErrorFunction.__call__
-        create_folds_using_multiscale optimize_ellipsoid_using_idw optimize_covariance_using_idw"""
+        create_folds_using_multiscale optimize_ellipsoid_using_idw optimize_covariance_using_idw
+        mds_using_random_search"""
     assert parallel - known == {*own.split()}
 
 
@@ -139,7 +164,7 @@ NAN, INF, NULL = (0, math.nan, 0), (0, 0, -math.inf), (0, 0, 0)
 GRID = gravelox.CartesianGrid((10, 10, 10), (2, 3, 4))
 BLOCKS = gravelox.BlockModel(GRID, [False] * 22 + [True] * 2)
 FOREST = gravelox.DynamicNeighborhood([NULL])
-KERNEL, BROKEN = gravelox.Kernel.gaussian, gravelox.Ellipsoid(np.full((3, 3), math.nan))
+BROKEN = gravelox.Ellipsoid(np.full((3, 3), math.nan))
 Grid, Hood, Growing = gravelox.CartesianGrid, gravelox.Neighborhood, gravelox.DynamicNeighborhood
 NOT_MADE = ["SpatialFunction", "EllipsoidInfo", "Kernel", "Covariance", "Estimator"]
 NOT_MADE += ["SimulatorFactory", "SimulatorGenerator", "Distribution"]
@@ -286,6 +311,40 @@ REFUSED += [
     ("A: .*rows.*columns.*2 x 4", gravelox.compute_optimum_rotation, (WIDE,)),
 ]
 REFUSED += [("N: ", gravelox.create_random_rotation, (n, 1)) for n in (0, -1, 2**31 - 1)]
+dense, sparse, search = gravelox.dense_MDS, gravelox.sparse_MDS, gravelox.mds_using_random_search
+LINE, THREE, RAGGED, geodesic = [[1], [3]], np.eye(3), [[1, 2], [3]], gravelox.compute_geodesics
+BLENDED = [(f"K: .*{k}", ENDS, k) for k in (0, -1, 301)]
+BLENDED += [("source: .*1 value", ([], []), 1), ("source: .*2 .*1 at", (RAGGED, LINE), 1)]
+BLENDED += [("target: .*3 .*2", (THREE, THREE[1:]), 1)]
+REFUSED += [(message, Blends[0], (*ends, 1, 0.5, k)) for message, ends, k in BLENDED]
+REFUSED += [("K: .*301", make, (*ENDS, 1, 0.5, 301, KERNEL)) for make in Blends[1:]]
+REFUSED += [("x: .*3 .*2", MAPS[0].project, ([1, 2],)), ("X: .*3 .*1", MAPS[3].project, (LINE,))]
+REFUSED += [("weights: .*2 .*3", Radial(LINE, [], THREE).project, ([1],))]
+REFUSED += [("kernel: .*spherical.*idw.*cubic", gravelox.Projection, ([], "cubic"))]
+REFUSED += [("kernel_backward: .*cubic", gravelox.IsomorphismParameters, ("idw", 1, "cubic"))]
+REFUSED += [("kernel.*cubic", c, (*XY, "cubic", *r[1:])) for c, r in ((curve, RUN), (curves, RUNS))]
+for call, *rest in ((curve, *RUN), (curves, *RUNS), (curves,)):
+    REFUSED += [("source.*: .*1 value", call, ([], [], *rest))]
+    REFUSED += [("target.*: .*2 .*3", call, ([1, 2], [1, 2, 3], *rest))]
+REFUSED += [("initial_guess: .*3 .*2", dense, (3, 3, THREE, THREE[:, 1:]))]
+REFUSED += [("initial_guess: .*3 .*2", sparse, (3, 3, PAIRS[:3], THREE[:, 1:]))]
+SEARCHES = [("initial_guess: .*2 .*3", 2, THREE, []), ("initial_guess: .*1 value", 2, [], [])]
+SEARCHES += [(f"D: .*{i}", 3, THREE, [(i, 0, 1.0)]) for i in (-1, 3)]
+REFUSED += [(message, search, (*run, [1], 1, 1)) for message, *run in SEARCHES]
+REFUSED += [("max_distortions: .*1 value", search, (3, THREE, [], [], 1, 1))]
+REFUSED += [("max_size: .*0", search, (3, THREE, [], [1], 1, 1, 1, 1, False, 0))]
+REFUSED += [(f"D: .*{i}", sparse, (1, 3, [Pair(i, 2 - i, 1)])) for i in (-1, 3)]
+REFUSED += [("D: .*4 .*3", dense, (1, 4, THREE)), ("D: .*square", dense, (1, 2, RAGGED))]
+REFUSED += [("D: .*square", gravelox.create_minimum_spanning_tree, (RAGGED,))]
+REFUSED += [("D: .*square", gravelox.create_sparse_dist_matrix, (RAGGED, 1, 1, 1))]
+REFUSED += [(f"start: .*{i}", geodesic, (SAMPLES, i, 0, *LONG)) for i in (-1, 300)]
+REFUSED += [("end: .*300", geodesic, (SAMPLES, 0, 300, *LONG))]
+REFUSED += [("dense_set: .*300 .*299", geodesics, (SAMPLES, *LONG[:3], SAMPLES[1:]))]
+REFUSED += [("pts: .*1 value", gravelox.create_random_dense_set, ([], HOOD, 1, 1, 1))]
+STATES = [(), 5, ([],), ("ab", "cd"), (([], [], []),), ([1.0], [None]), (([], []), "idw")]
+STATES += [(([], []), "cubic", "idw"), (([], []), 1, 2)]
+loaded = gravelox.Isomorphism.__new__(gravelox.Isomorphism)
+REFUSED += [("state|kernel", loaded.__setstate__, (state,)) for state in STATES]
 FAILURES = [
     (OverflowError, r"x: .* \[1, 1\] has a probability of 1 ", SCORES.forward, (FAR,)),
     (RuntimeError, "invalid index$", BLOCKS, NULL),
