@@ -258,16 +258,15 @@ geodesic compute_geodesics(const location_list& locs, int start, int end,
   shortest_paths paths;
   paths.search(edges, dense_nei.nearest_neighbor(locs[to_size(start)]), b);
 
-  geodesic result{{}, unreachable, {}};
-  auto& [path, length, distances] = result;
-  distances.swap(paths.distances);
-  if (b >= 0 && distances[to_size(b)] < unreachable) {
-    length = distances[to_size(b)];
+  location_list path;
+  double length = unreachable;
+  if (b >= 0 && paths.distances[to_size(b)] < unreachable) {
+    length = paths.distances[to_size(b)];
     for (int node = b; node >= 0; node = paths.previous[to_size(node)]) {
       path.push_back(dense_set[to_size(node)]);
     }
   }
-  return result;
+  return {path, length, paths.distances};
 }
 
 std::vector<std::vector<double>> compute_geodesic_based_distance_matrix(

@@ -193,3 +193,13 @@ def test_bad_files_end_the_examples_with_one_line(tmp_path):
         ended = subprocess.run(command, capture_output=True, text=True, timeout=120, check=False)
         assert (ended.returncode, ended.stderr.count("\n")) == (2, 1)
         assert message in ended.stderr
+
+
+def test_a_fold_is_kriged_better_when_it_is_unfolded(tmp_path):
+    command = [sys.executable, EXAMPLES / "unfolding.py", "--out", tmp_path]
+    ended = subprocess.run(command, capture_output=True, text=True, timeout=120, check=True)
+    errors = re.findall(r", (?:one|two|three) ranges? .*?(\S+) +\S+$", ended.stdout, re.M)
+    plain, axes, unfolded = map(float, errors)
+    assert unfolded < 0.8 * axes < 0.8 * plain
+    for name in ("fold", "flat_space", "estimates"):
+        assert (tmp_path / f"{name}.png").read_bytes()[:4] == b"\x89PNG"
