@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "detection/angular_clustering.hpp"
 
+#include <atomic>
 #include <cmath>
 #include <cstddef>
 #include <numbers>
@@ -8,16 +9,19 @@
 
 #include "common/checks.hpp"
 #include "common/integer.hpp"
+#include "common/memory.hpp"
 #include "common/parallel_for.hpp"
 #include "detection/angular_distance_detail.hpp"
+#include "detection/id_list_detail.hpp"
 #include "spatial/neighborhood.hpp"
+#include "spatial/search_space.hpp"
 
 namespace gravelox {
 
 namespace {
 
 using detail::angle_test;
-using id_list = std::vector<std::size_t>;
+using detail::id_list;
 
 struct support_limits {
   double share;
@@ -38,15 +42,23 @@ struct angular_support {
   id_list links;
 };
 
+/// Throws once the ids would not fit in memory: each is counted as a double, which it takes with
+/// the link that may come of it.
 std::vector<id_list> neighbors_of_all(const location_list& locs, const Ellipsoid& anisotropy,
                                       double r_tol, int n_threads) {
   const Neighborhood search(locs, anisotropy);
   std::vector<id_list> neis(locs.size());
   std::vector<neighbor_buffer> buffers(n_thread_slots(n_threads));
+  std::atomic<std::size_t> n_ids = 0;
+  const auto add_to_ids = [&n_ids](std::size_t n) {
+    check_memory("r_tol", static_cast<double>(n_ids += n));
+  };
   parallel_for(locs.size(), n_threads, [&](std::size_t i, int thread_number) {
+    add_to_ids(0);  // after a refusal no point is queried any more
     neighbor_buffer& buffer = buffers[to_size(thread_number)];
     search.find_neighbors(locs[i], r_tol, buffer);
-    neis[i] = buffer.ids;
+    add_to_ids(buffer.ids.size());
+    neis[i].assign(buffer.ids.begin(), buffer.ids.end());
   });
   return neis;
 }
@@ -54,7 +66,7 @@ std::vector<id_list> neighbors_of_all(const location_list& locs, const Ellipsoid
 std::size_t count_narrow(const angle_test& test, const location& A, const location& B,
                          const location_list& locs, const id_list& corners) {
   std::size_t n_narrow = 0;
-  for (const std::size_t corner : corners) {
+  for (const std::uint32_t corner : corners) {
     if (test.is_narrow(A, B, locs[corner])) ++n_narrow;
   }
   return n_narrow;
@@ -64,7 +76,7 @@ angular_support support_of(std::size_t i, const location_list& locs,
                            const std::vector<id_list>& neis, const angle_test& test,
                            const support_limits& limits) {
   angular_support support;
-  for (const std::size_t j : neis[i]) {
+  for (const std::uint32_t j : neis[i]) {
     const std::size_t narrow_at_j = count_narrow(test, locs[i], locs[j], locs, neis[j]);
     const std::size_t narrow_at_i = count_narrow(test, locs[i], locs[j], locs, neis[i]);
     const angle_counts pair{narrow_at_j + narrow_at_i, neis[j].size() + neis[i].size()};
@@ -74,6 +86,7 @@ angular_support support_of(std::size_t i, const location_list& locs,
     const bool is_enough = limits.min_size <= 0 || pair.narrow >= to_size(limits.min_size);
     if (is_seen_by_both && is_enough && pair.share() > limits.share) support.links.push_back(j);
   }
+  support.links.shrink_to_fit();
   return support;
 }
 
@@ -82,7 +95,7 @@ void grow_cluster(std::size_t seed, int label, const std::vector<angular_support
   labels[seed] = label;
   std::queue<std::size_t> front({seed});
   for (; !front.empty(); front.pop()) {
-    for (const std::size_t next : supports[front.front()].links) {
+    for (const std::uint32_t next : supports[front.front()].links) {
       if (labels[next] != -1) continue;
       labels[next] = label;
       front.push(next);
@@ -102,8 +115,8 @@ double compute_angular_distance(const location& A, const location& B, const loca
 std::vector<int> find_clusters(const location_list& locs, const Ellipsoid& anisotropy, double r_tol,
                                double angular_tol, double support_threshold, int min_support_size,
                                int n_threads) {
-  check_finite("locs", locs);
   check_ellipsoid("anisotropy", anisotropy);
+  check_mapped("locs", locs, anisotropy);
   check_not_nan("r_tol", r_tol);
   check_not_nan("angular_tol", angular_tol);
   check_not_nan("support_threshold", support_threshold);

@@ -13,8 +13,8 @@
 namespace gravelox {
 
 /// The angle at C between the lines to A and to B, without orientation: 0 to pi / 2 (radians), and
-/// pi / 2 where A or B is less than 1e-15 from C. NaN where lengths overflow. Throws
-/// std::invalid_argument for coordinates that are not finite.
+/// pi / 2 where A or B is less than 1e-15 from C. pi / 2 or NaN where squares of lengths overflow.
+/// Throws std::invalid_argument for coordinates that are not finite.
 double compute_angular_distance(const location& A, const location& B, const location& C);
 
 /// A label for each point, 0, 1, 2 ... in the order of the first point of each cluster, -1 for
@@ -31,8 +31,9 @@ double compute_angular_distance(const location& A, const location& B, const loca
 /// stands at a neighbour of i and one at a neighbour of j.
 ///
 /// Labels do not depend on the number of threads. The cost grows with the square of the number of
-/// neighbours. Throws std::invalid_argument for coordinates or an anisotropy that are not finite,
-/// and for tolerances or a threshold that are NaN.
+/// neighbours; memory takes 8 bytes for each neighbour of each point. Throws std::invalid_argument
+/// for an anisotropy, or coordinates before or after its map, that are not finite, for tolerances
+/// or a threshold that are NaN, and for an r_tol with more neighbours than fit in memory.
 std::vector<int> find_clusters(const location_list& locs, const Ellipsoid& anisotropy, double r_tol,
                                double angular_tol, double support_threshold, int min_support_size,
                                int n_threads = 0);

@@ -30,28 +30,6 @@ std::vector<int> numbered(const std::vector<int>& labels) {
   return result;
 }
 
-/// For each point the clusters after its own that it touches.
-std::vector<std::vector<int>> touched_clusters(const location_list& locs,
-                                               const std::vector<int>& clusters,
-                                               double max_distance, int n_threads) {
-  const Neighborhood search(locs);
-  const double sure_radius = max_distance / Neighborhood::complete_share;
-  std::vector<std::vector<int>> touched(locs.size());
-  std::vector<neighbor_buffer> buffers(n_thread_slots(n_threads));
-  parallel_for(locs.size(), n_threads, [&](std::size_t i, int thread_number) {
-    if (clusters[i] == none) return;
-    neighbor_buffer& buffer = buffers[to_size(thread_number)];
-    search.find_neighbors(locs[i], sure_radius, buffer);
-    for (const auto& [id, squared_distance] : buffer.found) {
-      if (squared_distance >= max_distance * max_distance) break;  // they come nearest first
-      if (clusters[id] > clusters[i]) touched[i].push_back(clusters[id]);
-    }
-    std::sort(touched[i].begin(), touched[i].end());
-    touched[i].erase(std::unique(touched[i].begin(), touched[i].end()), touched[i].end());
-  });
-  return touched;
-}
-
 /// Sets of clusters, each known by its least member.
 class cluster_sets {
  public:
@@ -72,11 +50,37 @@ class cluster_sets {
     parent(second) = first;
   }
 
+  void join_as_in(const cluster_sets& others) {
+    for (std::size_t i = 0; i < parents_.size(); ++i) join(to_int(i), others.parents_[i]);
+  }
+
  private:
   int& parent(int cluster) { return parents_[to_size(cluster)]; }
 
   std::vector<int> parents_;
 };
+
+/// The clusters that touch, in one set. Each thread joins those that it finds: a list of what each
+/// point touches would grow with the square of the number of points.
+cluster_sets touching_clusters(const location_list& locs, const std::vector<int>& clusters,
+                               double max_distance, int n_threads) {
+  const Neighborhood search(locs);
+  const double sure_radius = max_distance / Neighborhood::complete_share;
+  const std::size_t n_slots = n_thread_slots(n_threads);
+  std::vector<cluster_sets> sets(n_slots, cluster_sets(locs.size()));
+  std::vector<neighbor_buffer> buffers(n_slots);
+  parallel_for(locs.size(), n_threads, [&](std::size_t i, int thread_number) {
+    if (clusters[i] == none) return;
+    neighbor_buffer& buffer = buffers[to_size(thread_number)];
+    search.find_neighbors(locs[i], sure_radius, buffer);
+    for (const auto& [id, squared_distance] : buffer.found) {
+      if (squared_distance >= max_distance * max_distance) break;  // they come nearest first
+      if (clusters[id] > clusters[i]) sets[to_size(thread_number)].join(clusters[i], clusters[id]);
+    }
+  });
+  for (std::size_t i = 1; i < n_slots; ++i) sets.front().join_as_in(sets[i]);
+  return std::move(sets.front());
+}
 
 }  // namespace
 
@@ -86,12 +90,7 @@ std::vector<int> cluster_fusion(const location_list& locs, const std::vector<int
   check_same_size("initial_clusters", initial_clusters.size(), locs.size(), "location");
   if (!(max_distance >= 0.0)) refuse("max_distance", "a number of at least 0", max_distance);
   std::vector<int> clusters = numbered(initial_clusters);
-  const std::vector<std::vector<int>> touched =
-      touched_clusters(locs, clusters, max_distance, n_threads);
-  cluster_sets sets(locs.size());
-  for (std::size_t i = 0; i < locs.size(); ++i) {
-    for (const int other : touched[i]) sets.join(clusters[i], other);
-  }
+  cluster_sets sets = touching_clusters(locs, clusters, max_distance, n_threads);
   for (int& cluster : clusters) {
     if (cluster != none) cluster = sets.least(cluster);
   }

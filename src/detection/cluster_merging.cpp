@@ -11,12 +11,17 @@
 #include <stdexcept>
 
 #include "common/checks.hpp"
+#include "common/memory.hpp"
 #include "detection/angular_distance_detail.hpp"
+#include "detection/id_list_detail.hpp"
 #include "spatial/neighborhood.hpp"
+#include "spatial/search_space.hpp"
 
 namespace gravelox {
 
 namespace {
+
+using detail::id_list;
 
 struct cluster {
   location_list points;
@@ -44,13 +49,14 @@ location_list observers(const location& p, const cluster& a, const cluster& b, d
   return found;
 }
 
-/// For each point of a, the points of b that it is near to.
-std::vector<std::vector<std::size_t>> near_points(const cluster& a, const cluster& b,
-                                                  double r_tol) {
-  std::vector<std::vector<std::size_t>> near(a.points.size());
+/// For each point of a, the points of b that it is near to. Throws once they would not fit.
+std::vector<id_list> near_points(const cluster& a, const cluster& b, double r_tol) {
+  std::vector<id_list> near(a.points.size());
   neighbor_buffer buffer;
-  for (std::size_t q = 0; q < b.points.size(); ++q) {
+  double n_ids = 0.0;
+  for (std::uint32_t q = 0; q < b.points.size(); ++q) {
     a.search->find_neighbors(b.points[q], r_tol, buffer);
+    check_memory("r_tol", n_ids += static_cast<double>(buffer.ids.size()));
     for (const std::size_t p : buffer.ids) near[p].push_back(q);
   }
   return near;
@@ -59,11 +65,11 @@ std::vector<std::vector<std::size_t>> near_points(const cluster& a, const cluste
 /// The least angle in radians, infinite if there is none.
 double least_angle(const cluster& a, const cluster& b, double r_tol) {
   double least = std::numeric_limits<double>::infinity();
-  const std::vector<std::vector<std::size_t>> near = near_points(a, b, r_tol);
+  const std::vector<id_list> near = near_points(a, b, r_tol);
   for (std::size_t p = 0; p < near.size(); ++p) {
     if (near[p].empty()) continue;
     const location_list seen_from = observers(a.points[p], a, b, r_tol);
-    for (const std::size_t q : near[p]) {
+    for (const std::uint32_t q : near[p]) {
       for (const location& t : seen_from) {
         least = std::min(least, detail::angular_distance(a.points[p], b.points[q], t));
       }
@@ -94,6 +100,7 @@ class merger {
     const int current = clusters_[start];
     if (ignored_.contains(current) || target_[current] != current || is_repeated(start)) return;
     ++n_floods_;
+    const auto row = D_.find(current);
     std::queue<std::size_t> front;
     const auto visit = [&](std::size_t point) {
       visits_[point] = {n_floods_, current};
@@ -102,7 +109,7 @@ class merger {
     for (visit(start); !front.empty(); front.pop()) {
       search_.find_neighbors(locs_[front.front()], r_tol_, near_);
       for (const std::size_t next : near_.ids) {
-        if (visits_[next].flood == n_floods_ || !is_close(current, clusters_[next])) continue;
+        if (visits_[next].flood == n_floods_ || !is_close(row, clusters_[next])) continue;
         merge(clusters_[next], current);
         visit(next);
       }
@@ -117,9 +124,8 @@ class merger {
     int label = -1;
   };
 
-  bool is_close(int current, int other) const {
+  bool is_close(cluster_angles::const_iterator row, int other) const {
     if (ignored_.contains(other)) return false;
-    const auto row = D_.find(current);
     if (row == D_.end()) throw std::out_of_range("invalid map<K, T> key");
     const auto angle = row->second.find(other);
     return angle != row->second.end() && angular_tol_ > angle->second;
@@ -160,7 +166,7 @@ cluster_angles compute_angular_distance_between_clusters(const Ellipsoid& anisot
                                                          const std::vector<int>& clusters,
                                                          double r_tol) {
   check_ellipsoid("anisotropy", anisotropy);
-  check_finite("locs", locs);
+  check_mapped("locs", locs, anisotropy);
   check_same_size("clusters", clusters.size(), locs.size(), "location");
   check_not_nan("r_tol", r_tol);
   const std::map<int, cluster> groups = group_by_label(locs, clusters, anisotropy);
@@ -178,16 +184,15 @@ std::vector<int> merge_clusters(const cluster_angles& D, const location_list& lo
                                 const std::vector<int>& clusters,
                                 const std::vector<int>& ignored_ids, double angular_tol,
                                 double r_tol, const Ellipsoid& ani) {
-  check_finite("locs", locs);
+  check_ellipsoid("ani", ani);
+  check_mapped("locs", locs, ani);
   check_same_size("clusters", clusters.size(), locs.size(), "location");
   check_not_nan("angular_tol", angular_tol);
   check_not_nan("r_tol", r_tol);
-  check_ellipsoid("ani", ani);
   merger floods(D, locs, clusters, ignored_ids, angular_tol, r_tol, ani);
   for (std::size_t i = 0; i < locs.size(); ++i) floods.flood_from(i);
-  std::vector<int> merged(clusters.size());
-  std::transform(clusters.begin(), clusters.end(), merged.begin(),
-                 [&floods](int label) { return floods.target_of(label); });
+  std::vector<int> merged = clusters;
+  for (int& label : merged) label = floods.target_of(label);
   return merged;
 }
 

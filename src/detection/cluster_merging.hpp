@@ -24,7 +24,8 @@ using cluster_angles = std::map<int, std::map<int, double>>;
 /// Distances are those of Neighborhoods, one for each label, in the space of the anisotropy. A pair
 /// with nothing near, or with no angle below 90 degrees, has no entry, and a label without entries
 /// no row; D need not be symmetric. Throws std::invalid_argument for a number of labels other than
-/// that of locs, coordinates or an anisotropy that are not finite, and an r_tol that is NaN.
+/// that of locs, for an anisotropy, or coordinates before or after its map, that are not finite,
+/// and for an r_tol that is NaN or has more near pairs of two labels than fit in memory.
 cluster_angles compute_angular_distance_between_clusters(const Ellipsoid& anisotropy,
                                                          const location_list& locs,
                                                          const std::vector<int>& clusters,
@@ -40,7 +41,8 @@ cluster_angles compute_angular_distance_between_clusters(const Ellipsoid& anisot
 ///
 /// Throws std::out_of_range "invalid map<K, T> key" where a flood from c meets a point with a label
 /// that counts and D has no row for c; std::invalid_argument for a number of labels other than
-/// that of locs, coordinates or an ellipsoid that are not finite, and tolerances that are NaN.
+/// that of locs, an ellipsoid, or coordinates before or after its map, that are not finite, and
+/// tolerances that are NaN.
 std::vector<int> merge_clusters(const cluster_angles& D, const location_list& locs,
                                 const std::vector<int>& clusters,
                                 const std::vector<int>& ignored_ids, double angular_tol,

@@ -2,6 +2,7 @@
 #include "detection/feature_clustering.hpp"
 
 #include <cstddef>
+#include <utility>
 
 #include "detection/featured_points_detail.hpp"
 
@@ -16,17 +17,17 @@ using id_list = featured_points::id_list;
 void grow_region(std::size_t seed, int label, const featured_points& points, int n_threads,
                  std::vector<int>& labels) {
   labels[seed] = label;
-  id_list front{seed};
-  while (!front.empty()) {
-    const std::vector<id_list> like = points.like_neighbors(front, n_threads);
-    front.clear();
-    for (const id_list& neighbors : like) {
-      for (const std::size_t next : neighbors) {
-        if (labels[next] != -1) continue;
+  const auto is_free = [&labels](std::size_t id) { return labels[id] == -1; };
+  for (id_list ring{seed}; !ring.empty();) {
+    id_list next_ring;
+    points.visit_like_neighbors(ring, is_free, n_threads, [&](std::size_t, const id_list& like) {
+      for (const std::size_t next : like) {
+        if (!is_free(next)) continue;
         labels[next] = label;
-        front.push_back(next);
+        next_ring.push_back(next);
       }
-    }
+    });
+    ring = std::move(next_ring);
   }
 }
 

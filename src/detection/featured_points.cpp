@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
+#include <atomic>
+#include <optional>
 #include <span>
 #include <string>
+#include <utility>
 
 #include "common/checks.hpp"
 #include "common/integer.hpp"
@@ -15,10 +19,15 @@ namespace {
 /// Opening a parallel region costs more than the queries of fewer points.
 constexpr std::size_t least_parallel_size = 64;
 
+/// Points whose neighbours are found ahead, and ids held of them (1 GB), past which the neighbours
+/// of a point are found when its turn comes.
+constexpr std::size_t block_size = 4096;
+constexpr std::size_t most_held = std::size_t{1} << 27;
+
 void check_color_of(std::string_view name, const Eigen::VectorXd& color, Eigen::Index length,
                     const std::string& where) {
   if (color.size() != length) {
-    refuse(name, text_of(length, " values, as many as the features of the first point"),
+    refuse(name, text_of(length, length == 1 ? " value" : " values", ", as for the first point"),
            text_of(color.size(), where));
   }
   if (!color.allFinite()) refuse(name, "finite numbers", text_of("infinities or NaN", where));
@@ -67,29 +76,38 @@ bool featured_points::is_like(std::size_t point,
 }
 
 featured_points::id_list featured_points::like_neighbors(std::size_t point,
+                                                         const id_test& is_wanted,
                                                          neighbor_buffer& buffer) const {
   if (radius_ > 0.0) {
     nei_.find_neighbors(locs_[point], radius_, buffer);
   } else {
     nei_.find_neighbors(locs_[point], n_neis_, buffer);
   }
-  id_list like;
-  like.reserve(buffer.ids.size());
-  for (const std::size_t id : buffer.ids) {
-    if (id != point && is_like(id, features_.col(to_index(point)))) like.push_back(id);
-  }
-  return like;
+  std::erase_if(buffer.ids, [&](std::size_t id) {
+    return id == point || !is_wanted(id) || !is_like(id, features_.col(to_index(point)));
+  });
+  return buffer.ids;
 }
 
-std::vector<featured_points::id_list> featured_points::like_neighbors(const id_list& points,
-                                                                      int n_threads) const {
+void featured_points::visit_like_neighbors(const id_list& points, const id_test& is_wanted,
+                                           int n_threads, const visitor& visit) const {
   const int n_used = points.size() < least_parallel_size ? 1 : n_threads;
-  std::vector<id_list> like(points.size());
   std::vector<neighbor_buffer> buffers(n_thread_slots(n_used));
-  parallel_for(points.size(), n_used, [&](std::size_t i, int thread_number) {
-    like[i] = like_neighbors(points[i], buffers[to_size(thread_number)]);
-  });
-  return like;
+  for (std::size_t begin = 0; begin < points.size(); begin += block_size) {
+    const std::size_t n = std::min(block_size, points.size() - begin);
+    std::vector<std::optional<id_list>> like(n);
+    std::atomic<std::size_t> n_held = 0;
+    parallel_for(n, n_used, [&](std::size_t i, int thread_number) {
+      if (n_held > most_held) return;
+      like[i] = like_neighbors(points[begin + i], is_wanted, buffers[to_size(thread_number)]);
+      n_held += like[i]->size();
+    });
+    for (std::size_t i = 0; i < n; ++i) {
+      const std::size_t point = points[begin + i];
+      visit(point,
+            like[i] ? std::move(*like[i]) : like_neighbors(point, is_wanted, buffers.front()));
+    }
+  }
 }
 
 }  // namespace gravelox::detail

@@ -5,6 +5,7 @@
 
 #include <Eigen/Core>
 #include <cstddef>
+#include <functional>
 #include <string_view>
 #include <vector>
 
@@ -18,6 +19,8 @@ namespace gravelox::detail {
 class featured_points {
  public:
   using id_list = std::vector<std::size_t>;
+  using id_test = std::function<bool(std::size_t id)>;
+  using visitor = std::function<void(std::size_t point, const id_list& like)>;
 
   /// Neighbours are those within the radius if it is above 0, else the n_neis nearest. Throws
   /// std::invalid_argument for locations that are not finite; features of another number, of
@@ -36,12 +39,17 @@ class featured_points {
   /// Whether a point's features differ from the colour by the tolerance at most.
   bool is_like(std::size_t point, const Eigen::Ref<const Eigen::VectorXd>& color) const;
 
-  /// For each of these points its neighbours whose features are like its own, without itself, in
-  /// the order of the query. Memory grows with the number of neighbours.
-  std::vector<id_list> like_neighbors(const id_list& points, int n_threads) const;
+  /// Visits each of these points in turn with its wanted neighbours whose features are like its
+  /// own, without itself, in the order of the query.
+  ///
+  /// The neighbours of some points ahead are found in parallel. So many threads ask is_wanted at
+  /// once, never during a visit, and what an earlier visit made unwanted may still be in a list.
+  void visit_like_neighbors(const id_list& points, const id_test& is_wanted, int n_threads,
+                            const visitor& visit) const;
 
  private:
-  id_list like_neighbors(std::size_t point, neighbor_buffer& buffer) const;
+  id_list like_neighbors(std::size_t point, const id_test& is_wanted,
+                         neighbor_buffer& buffer) const;
 
   const location_list& locs_;
   const Neighborhood& nei_;

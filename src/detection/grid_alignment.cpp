@@ -20,8 +20,6 @@ namespace {
 using detail::featured_points;
 using id_list = featured_points::id_list;
 
-/// Points whose neighbours are held in memory at once.
-constexpr std::size_t block_size = 4096;
 constexpr std::size_t n_families = 3;
 
 /// A whole number, in a type that holds it however small the tolerance is.
@@ -72,18 +70,17 @@ void add_pairs(std::size_t point, const std::vector<neighbor_angles>& neighbors,
 membership find_families(const featured_points& points, double tolerance, int n_threads) {
   membership families(points.size());
   std::vector<neighbor_angles> neighbors;
-  for (std::size_t begin = 0; begin < points.size(); begin += block_size) {
-    id_list block(std::min(block_size, points.size() - begin));
-    std::iota(block.begin(), block.end(), begin);
-    const std::vector<id_list> like = points.like_neighbors(block, n_threads);
-    for (std::size_t i = 0; i < block.size(); ++i) {
-      neighbors.clear();
-      for (const std::size_t id : like[i]) {
-        neighbors.push_back(angles_to(id, points.location_of(block[i]), points.location_of(id)));
-      }
-      add_pairs(block[i], neighbors, tolerance, families);
-    }
-  }
+  id_list all(points.size());
+  std::iota(all.begin(), all.end(), 0);
+  const auto is_wanted = [](std::size_t) { return true; };
+  points.visit_like_neighbors(
+      all, is_wanted, n_threads, [&](std::size_t point, const id_list& like) {
+        neighbors.clear();
+        for (const std::size_t id : like) {
+          neighbors.push_back(angles_to(id, points.location_of(point), points.location_of(id)));
+        }
+        add_pairs(point, neighbors, tolerance, families);
+      });
   return families;
 }
 

@@ -21,7 +21,7 @@ Returns
 -------
 float
     The angle, 0 to pi / 2: lines in opposite directions make an angle of 0. It is pi / 2 where `A`
-    or `B` is less than 1e-15 from `C`, and NaN where squares of distances overflow.
+    or `B` is less than 1e-15 from `C`, and pi / 2 or NaN where squares of distances overflow.
 
 Raises
 ------
@@ -76,12 +76,13 @@ list of int
 Raises
 ------
 ValueError
-    If a coordinate or the matrix of `anisotropy` is not finite, or `r_tol`, `angular_tol` or
-    `support_threshold` is NaN.
+    If a coordinate or the matrix of `anisotropy` is not finite, `r_tol`, `angular_tol` or
+    `support_threshold` is NaN, or the neighbours within `r_tol` do not fit in memory.
 
 Notes
 -----
-The time grows with the square of the number of neighbours: choose `r_tol` for a few dozen.
+The time grows with the square of the number of neighbours: choose `r_tol` for a few dozen. Each
+neighbour of each location takes 8 bytes.
 
 Examples
 --------
@@ -127,7 +128,7 @@ Raises
 ------
 ValueError
     If `clusters` and `locs` differ in length, a coordinate or the matrix of `anisotropy` is not
-    finite, or `r_tol` is NaN.
+    finite, `r_tol` is NaN, or the near pairs of two clusters do not fit in memory.
 
 Examples
 --------
@@ -313,7 +314,8 @@ initial_clusters : array_like of int
     A label for each location; -1 for none.
 max_distance : float
     Two clusters are one if points of theirs are strictly nearer than this, in length units, and so
-    are clusters joined by a chain of such. 0 joins none.
+    are clusters joined by a chain of such. 0 joins none, nor does one whose square is 0 in
+    floating point.
 n_threads : int
     Threads; 0 means all. The labels do not depend on it.
 
