@@ -84,6 +84,15 @@ PPMT, ROWS = gravelox.PPMT, DATA.lognormal(size=(3, 300))
 PARALLEL["PPMT.__init__"] = lambda n_threads: PPMT(ROWS, 9, 0.37, n_threads).forward(ROWS, 1)
 for name in ("forward", "backward"):
     PARALLEL[f"PPMT.{name}"] = partial(getattr(PPMT(ROWS, 9), name), DATA.normal(size=(3, 300)))
+FLAT, CLUMP = np.zeros((300, 1)), SAMPLES / np.where(np.arange(300) < 100, 300, 5)[:, None]
+LIKE, CLUMPED = (SAMPLES, FLAT, HOOD, 0), (CLUMP, FLAT, gravelox.Neighborhood(CLUMP), 0)
+align, regions, fuse = [*vars(gravelox.grid_detector).values()][-3:]
+PARALLEL["find_clusters"] = partial(gravelox.find_clusters, SAMPLES, METRIC, 0.5, 30, 0.2, 3)
+PARALLEL["grid_detector.find_clusters"] = partial(regions, *CLUMPED, [0], 0.2, 0)
+PARALLEL["grid_detector.cluster_fusion"] = partial(fuse, SAMPLES, range(300), 1.5)
+PARALLEL["grid_detector.detect_grid_aligned_points"] = lambda n_threads: (
+    5.0 ** np.arange(20) @ [align(*LIKE, t / 2, 0, 12, n_threads) for t in range(1, 21)]
+)
 
 
 def numbers(result):
@@ -286,6 +295,20 @@ REFUSED += [
     ("A: .*rows.*columns.*2 x 4", gravelox.compute_optimum_rotation, (WIDE,)),
 ]
 REFUSED += [("N: ", gravelox.create_random_rotation, (n, 1)) for n in (0, -1, 2**31 - 1)]
+NOT_LIKE = [(FLAT[1:], HOOD), ([[0]] * 299 + [[0, 1]], HOOD), (FLAT * math.nan, HOOD)]
+NOT_LIKE += [(FLAT, Hood(TARGETS)), (FLAT, Hood(SAMPLES[::-1]))]
+between, FEW = gravelox.compute_angular_distance_between_clusters, [1] * 299
+REFUSED += [("(features|nei): ", align, (SAMPLES, *own, 0, 1, 0, 9)) for own in NOT_LIKE]
+REFUSED += [
+    ("angle_tolerance_deg: .*0", align, (*LIKE, 0, 0, 9)),
+    ("n_neis: .*-1", align, (*LIKE, 1, 0, -1)),
+    ("background_color: .*1 .*2", regions, (*LIKE, [0, 0], 1, 0)),
+    ("initial_clusters: .*300.*299", fuse, (SAMPLES, FEW, 1)),
+    ("max_distance: .*-1", fuse, (SAMPLES, HOLES, -1)),
+    ("clusters: .*300.*299", gravelox.merge_clusters, ({}, SAMPLES, FEW, [], 1, 1, METRIC)),
+    ("clusters: .*300.*299", between, (METRIC, SAMPLES, FEW, 1)),
+    ("anisotropy: ", gravelox.find_clusters, (SAMPLES, BROKEN, 1, 1, 1, 1)),
+]
 FAILURES = [
     (OverflowError, r"x: .* \[1, 1\] has a probability of 1 ", SCORES.forward, (FAR,)),
     (RuntimeError, "invalid index$", BLOCKS, NULL),
