@@ -27,6 +27,7 @@
 #include "common/integer.hpp"
 #include "common/location.hpp"
 #include "common/random.hpp"
+#include "detection/angular_distance_detail.hpp"
 #include "estimation/folds.hpp"
 #include "estimation/inverse_distance.hpp"
 #include "estimation/kriging.hpp"
@@ -67,6 +68,15 @@ location_list uniform_points(std::size_t n, std::uint32_t seed) {
     for (double& coordinate : point) coordinate = static_cast<double>(engine()) * (side / 0x1p32);
   }
   return points;
+}
+
+std::vector<std::vector<std::size_t>> neighbors_within(const location_list& points, double radius) {
+  const Neighborhood neighborhood(points);
+  std::vector<std::vector<std::size_t>> neighbors;
+  for (const location& point : points) {
+    neighbors.push_back(neighborhood.find_neighbors(point, radius));
+  }
+  return neighbors;
 }
 
 std::vector<double> values_at(const location_list& points) {
@@ -190,6 +200,37 @@ void lags(benchmark::State& state) {
     }
   }
   state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(n_targets));
+}
+
+/// The bare count of the angles of a clustering, of one point: by all of them, or by the squares of
+/// their cosines (1).
+void angles(benchmark::State& state) {
+  constexpr std::size_t n_points = 10000;
+  constexpr double radius = 127.0;
+  constexpr double tolerance = 10.0 * std::numbers::pi / 180.0;
+  const location_list points = uniform_points(n_points, sample_seed);
+  const std::vector<std::vector<std::size_t>> neighbors = neighbors_within(points, radius);
+  const detail::angle_test test(tolerance);
+  const bool by_squares = state.range(0) == 1;
+  const auto is_narrow = [&](std::size_t i, std::size_t j, std::size_t k) {
+    if (by_squares) return test.is_narrow(points[i], points[j], points[k]);
+    return tolerance > detail::angular_distance(points[i], points[j], points[k]);
+  };
+  std::size_t n_neighbors_found = 0;
+  for (auto _ : state) {
+    std::size_t n_narrow = 0;
+    n_neighbors_found = 0;
+    for (std::size_t i = 0; i < n_points; ++i) {
+      n_neighbors_found += neighbors[i].size();
+      for (const std::size_t j : neighbors[i]) {
+        for (const std::size_t k : neighbors[j]) n_narrow += is_narrow(i, j, k) ? 1 : 0;
+        for (const std::size_t k : neighbors[i]) n_narrow += is_narrow(i, j, k) ? 1 : 0;
+      }
+    }
+    benchmark::DoNotOptimize(n_narrow);
+  }
+  state.counters["neighbors"] = static_cast<double>(n_neighbors_found) / n_points;
+  state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(n_points));
 }
 
 /// The argument of this and of the next is the number of samples.
@@ -487,6 +528,7 @@ BENCHMARK(lags)->MinTime(min_seconds);
 BENCHMARK(ordinary_kriging)->MinTime(min_seconds);
 BENCHMARK(inverse_distance)->MinTime(min_seconds);
 BENCHMARK(query)->MinTime(min_seconds)->Arg(20000)->Arg(100000);
+BENCHMARK(angles)->MinTime(min_seconds)->Arg(0)->Arg(1);
 BENCHMARK(tree)->MinTime(min_seconds)->Arg(20000)->Arg(100000);
 BENCHMARK(transforms)->MinTime(min_seconds)->Arg(128)->Arg(192)->Arg(255);
 BENCHMARK(pairs)->MinTime(min_seconds)->Arg(0)->Arg(1)->Arg(4);

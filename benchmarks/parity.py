@@ -577,6 +577,39 @@ def geodesics():
             yield f"compute_geodesic_based_distance_matrix.{name}.{threads}", table
 
 
+def detections():
+    for threads in (1, 3):
+        labels = gx.find_clusters(SAMPLES, ELLIPSOID, 0.25, 12, 0.3, 8, threads)
+        yield f"find_clusters.{threads}", labels
+    holes = [int(hole) for hole in HOLES]
+    angles = gx.compute_angular_distance_between_clusters(ELLIPSOID, SAMPLES, holes, 0.5)
+    yield (
+        "compute_angular_distance_between_clusters",
+        [(a, b, angle) for a, row in angles.items() for b, angle in row.items()],
+    )
+    merged = gx.merge_clusters(angles, SAMPLES, holes, [3], 2.5, 0.5, ELLIPSOID)
+    yield "merge_clusters", merged
+    yield (
+        "compute_angular_distance",
+        [gx.compute_angular_distance(*SAMPLES[i : i + 3]) for i in range(30, 50)],
+    )
+    values = [[value] for value in VALUES]
+    nodes = gx.CartesianGrid((5.6, 5.6, 1.4), (8, 8, 2)).locations()
+    colors = [[i % 3, i % 2] for i in range(len(nodes))]
+    detector, nei = gx.grid_detector, gx.Neighborhood(nodes)
+    for threads in (1, 3):
+        yield (
+            f"grid_detector.{threads}",
+            [
+                detector.detect_grid_aligned_points(nodes, colors, nei, 1.5, 5, 0.75, 0, threads),
+                detector.detect_grid_aligned_points(nodes, colors, nei, 1.5, 20, 0, 12, threads),
+                detector.find_clusters(SAMPLES, values, NEIGHBORHOOD, 2.0, [1], 0.5, 0, threads),
+                detector.find_clusters(SAMPLES, values, NEIGHBORHOOD, 1.0, [2], 0, 9, threads),
+                detector.cluster_fusion(SAMPLES, holes, 8, threads),
+            ],
+        )
+
+
 FAMILIES = (
     samplers,
     ellipsoids,
@@ -598,6 +631,7 @@ FAMILIES = (
     isomorphisms,
     scaling,
     geodesics,
+    detections,
 )
 
 

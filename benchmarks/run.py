@@ -18,6 +18,7 @@ from dataclasses import asdict
 for library in ("OMP", "OPENBLAS", "MKL", "BLIS", "NUMBA"):
     os.environ[f"{library}_NUM_THREADS"] = "1"
 
+import detection_figures  # noqa: E402
 import estimation_figures  # noqa: E402
 import grid_variogram_figures  # noqa: E402
 import multivariate_figures  # noqa: E402
@@ -37,6 +38,7 @@ FAMILIES = (
     optimization_figures,
     multivariate_figures,
     projection_figures,
+    detection_figures,
 )
 BENCHMARKS = {figure.__name__: figure for family in FAMILIES for figure in family.FIGURES}
 

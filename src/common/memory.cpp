@@ -11,7 +11,8 @@ namespace gravelox {
 namespace {
 
 bool fits_in_memory(double n_doubles) {
-  const double memory =
+  // Asked once: the answer takes a system call, and loops check as they go.
+  static const double memory =
       static_cast<double>(sysconf(_SC_PHYS_PAGES)) * static_cast<double>(sysconf(_SC_PAGE_SIZE));
   return n_doubles * sizeof(double) <= memory;
 }

@@ -9,6 +9,10 @@
 namespace gravelox {
 
 void register_frame_module(py::module_& m);
+
+/// The first names of the family of spatial primitives: clusters by angles.
+void register_detection_module(py::module_& m);
+
 void register_spatial_module(py::module_& m);
 void register_covariance_module(py::module_& m);
 void register_grid_module(py::module_& m);
@@ -28,6 +32,7 @@ void register_graphs(py::module_& m);
 void register_spectra_module(py::module_& m);
 void register_rotation_module(py::module_& m);
 void register_mixture_module(py::module_& m);
+void register_grid_detector_module(py::module_& m);
 
 /// The argument `dhids` of estimators, by default no hole ids.
 inline py::arg_v no_dhids() { return {"dhids", std::vector<int>(), "[]"}; }

@@ -12,6 +12,7 @@ PYBIND11_MODULE(gravelox, m) {
   gravelox::python_callback_mutex = std::make_shared<std::mutex>();
   gravelox::set_fft_n_threads();
   gravelox::register_frame_module(m);
+  gravelox::register_detection_module(m);
   gravelox::register_spatial_module(m);
   gravelox::register_covariance_module(m);
   gravelox::register_grid_module(m);
@@ -24,4 +25,5 @@ PYBIND11_MODULE(gravelox, m) {
   gravelox::register_spectra_module(m);
   gravelox::register_rotation_module(m);
   gravelox::register_mixture_module(m);
+  gravelox::register_grid_detector_module(m);
 }

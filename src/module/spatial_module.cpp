@@ -91,7 +91,7 @@ void bind_ellipsoid_info(py::module_& m) {
 void bind_ellipsoid(py::module_& m) {
   using point_map = location (Ellipsoid::*)(const location&) const;
   using list_map = location_list (Ellipsoid::*)(const location_list&, int) const;
-  py::class_<Ellipsoid>(m, "Ellipsoid", docs::ellipsoid)
+  place_class<Ellipsoid>(m)
       .def(py::init<const Eigen::Matrix3d&>(), arg("anisotropy_matrix"),
            docs::ellipsoid_from_matrix)
       .def(py::init<double, double, double, double, double, double>(), arg("r1"), arg("r2"),

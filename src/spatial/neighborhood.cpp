@@ -59,6 +59,15 @@ class Neighborhood::index {
 
   std::size_t size() const { return ids_.size(); }
 
+  /// location_of(id) gives each location, mapped; there are as many as stored.
+  template <typename LocationOf>
+  bool is_over(const LocationOf& location_of) const {
+    for (std::size_t i = 0; i < ids_.size(); ++i) {
+      if (cloud_.points[i] != location_of(ids_[i])) return false;
+    }
+    return true;
+  }
+
  private:
   point_cloud cloud_;
   tree_type tree_;
@@ -110,5 +119,10 @@ std::size_t Neighborhood::nearest_neighbor(const location& point) const {
 }
 
 std::size_t Neighborhood::size() const { return index_->size(); }
+
+bool Neighborhood::is_over(const location_list& locations) const {
+  return locations.size() == size() &&
+         index_->is_over([&](std::size_t id) { return space_.map(locations[id]); });
+}
 
 }  // namespace gravelox

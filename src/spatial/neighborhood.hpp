@@ -49,6 +49,13 @@ class Neighborhood {
   /// The number of locations.
   std::size_t size() const;
 
+  /// Whether these are the locations of the search, in the order of its ids.
+  bool is_over(const location_list& locations) const;
+
+  /// A query by radius misses no point nearer than this share of its radius: a little less than the
+  /// root of an eleventh.
+  static constexpr double complete_share = 0.3;
+
  private:
   class index;
 

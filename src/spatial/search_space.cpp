@@ -30,4 +30,8 @@ location_list search_space::map_checked(std::string_view name, const location_li
   return mapped;
 }
 
+void check_mapped(std::string_view name, const location_list& points, const Ellipsoid& ellipsoid) {
+  search_space(ellipsoid).map_checked(name, points);
+}
+
 }  // namespace gravelox

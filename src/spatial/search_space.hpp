@@ -31,4 +31,8 @@ class search_space {
   Ellipsoid ellipsoid_;
 };
 
+/// Throws std::invalid_argument for locations, an argument of this name, that are not finite before
+/// the ellipsoid's map or after it.
+void check_mapped(std::string_view name, const location_list& points, const Ellipsoid& ellipsoid);
+
 }  // namespace gravelox

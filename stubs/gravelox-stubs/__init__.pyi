@@ -3,7 +3,8 @@ import numpy
 import numpy.typing
 import typing
 from . import fft
-__all__: list[str] = ['BlockModel', 'BoundingBox', 'CDF', 'CartesianGrid', 'Covariance', 'CovarianceErrorFunction', 'Direction', 'DistPair', 'Distribution', 'DynamicNeighborhood', 'Ellipsoid', 'EllipsoidInfo', 'EllipsoidLBFGSParameters', 'EllipsoidOptimizationParameters', 'EnsembleEstimation', 'Estimator', 'ExperimentalVariogram', 'FIM', 'GMMFitter', 'GMMParams', 'GaussianMixtureProjection', 'IDW', 'IDWProjection', 'Isomorphism', 'IsomorphismParameters', 'Kernel', 'LocalCovariances', 'MDSProjection', 'NScore', 'Neighborhood', 'OKProjection', 'OptimizedNDProjection', 'OrdinaryKriging', 'PDF', 'PPMT', 'Projection', 'RNG', 'Rotation', 'SCT', 'SimpleKriging', 'SimulatorFactory', 'SimulatorGenerator', 'SpatialFunction', 'TBSIM', 'cauchy_distribution', 'check_n_threads', 'chi_squared_distribution', 'compute_covariance_error_idw', 'compute_ellipsoid_error_idw', 'compute_exp_variogram', 'compute_geodesic_based_distance_matrix', 'compute_geodesics', 'compute_optimum_rotation', 'compute_ordinary_kriging', 'compute_simple_ensemble_estimation', 'compute_simple_kriging', 'compute_svd_decomposition', 'compute_variogram', 'covariance_computer', 'create_folds', 'create_folds_using_multiscale', 'create_minimum_spanning_tree', 'create_random_dense_set', 'create_random_drillholes', 'create_random_orthogonal_matrix', 'create_random_rotation', 'create_sparse_dist_matrix', 'data_distribution', 'dense_MDS', 'ensemble_ellipsoid', 'ensemble_estimation', 'ensemble_local_ellipsoids', 'ensemble_model', 'ensemble_simulation', 'exponential_distribution', 'extract_covariance_from_varmap', 'extract_ellipsoid_info', 'extreme_points', 'extreme_value_distribution', 'fft', 'fisher_f_distribution', 'flood_fill_using_ball', 'gamma_distribution', 'gaussian_distribution', 'generate_covariances', 'generate_ellipsoids', 'generate_random_semisphere', 'generate_random_sphere', 'generate_rotations', 'kfold_cross_validation_using_idw', 'kfold_cross_validation_using_ok', 'kfold_cross_validation_using_sk', 'lognormal_distribution', 'mds_using_random_search', 'moving_window_estimation', 'multi_scale_cross_validation_error', 'optimize_covariance', 'optimize_covariance_using_idw', 'optimize_ellipsoid', 'optimize_ellipsoid_using_idw', 'optimize_ellipsoid_using_kfold', 'optimize_isomorphism', 'optimize_local_ellipsoids', 'optimize_local_ellipsoids_using_lbfgs', 'optimize_projection', 'optimize_rotation', 'orthogonolize_axes', 'set_fft_n_threads', 'simulate', 'simulator', 'smooth_variogram', 'sort_matrix3d', 'sparse_MDS', 'student_t_distribution', 'unconditional_ensemble_simulation', 'uniform_distribution', 'variogram_computer', 'weibull_distribution']
+from . import grid_detector
+__all__: list[str] = ['BlockModel', 'BoundingBox', 'CDF', 'CartesianGrid', 'Covariance', 'CovarianceErrorFunction', 'Direction', 'DistPair', 'Distribution', 'DynamicNeighborhood', 'Ellipsoid', 'EllipsoidInfo', 'EllipsoidLBFGSParameters', 'EllipsoidOptimizationParameters', 'EnsembleEstimation', 'Estimator', 'ExperimentalVariogram', 'FIM', 'GMMFitter', 'GMMParams', 'GaussianMixtureProjection', 'IDW', 'IDWProjection', 'Isomorphism', 'IsomorphismParameters', 'Kernel', 'LocalCovariances', 'MDSProjection', 'NScore', 'Neighborhood', 'OKProjection', 'OptimizedNDProjection', 'OrdinaryKriging', 'PDF', 'PPMT', 'Projection', 'RNG', 'Rotation', 'SCT', 'SimpleKriging', 'SimulatorFactory', 'SimulatorGenerator', 'SpatialFunction', 'TBSIM', 'cauchy_distribution', 'check_n_threads', 'chi_squared_distribution', 'compute_angular_distance', 'compute_angular_distance_between_clusters', 'compute_covariance_error_idw', 'compute_ellipsoid_error_idw', 'compute_exp_variogram', 'compute_geodesic_based_distance_matrix', 'compute_geodesics', 'compute_optimum_rotation', 'compute_ordinary_kriging', 'compute_simple_ensemble_estimation', 'compute_simple_kriging', 'compute_svd_decomposition', 'compute_variogram', 'covariance_computer', 'create_folds', 'create_folds_using_multiscale', 'create_minimum_spanning_tree', 'create_random_dense_set', 'create_random_drillholes', 'create_random_orthogonal_matrix', 'create_random_rotation', 'create_sparse_dist_matrix', 'data_distribution', 'dense_MDS', 'ensemble_ellipsoid', 'ensemble_estimation', 'ensemble_local_ellipsoids', 'ensemble_model', 'ensemble_simulation', 'exponential_distribution', 'extract_covariance_from_varmap', 'extract_ellipsoid_info', 'extreme_points', 'extreme_value_distribution', 'fft', 'find_clusters', 'fisher_f_distribution', 'flood_fill_using_ball', 'gamma_distribution', 'gaussian_distribution', 'generate_covariances', 'generate_ellipsoids', 'generate_random_semisphere', 'generate_random_sphere', 'generate_rotations', 'grid_detector', 'kfold_cross_validation_using_idw', 'kfold_cross_validation_using_ok', 'kfold_cross_validation_using_sk', 'lognormal_distribution', 'mds_using_random_search', 'merge_clusters', 'moving_window_estimation', 'multi_scale_cross_validation_error', 'optimize_covariance', 'optimize_covariance_using_idw', 'optimize_ellipsoid', 'optimize_ellipsoid_using_idw', 'optimize_ellipsoid_using_kfold', 'optimize_isomorphism', 'optimize_local_ellipsoids', 'optimize_local_ellipsoids_using_lbfgs', 'optimize_projection', 'optimize_rotation', 'orthogonolize_axes', 'set_fft_n_threads', 'simulate', 'simulator', 'smooth_variogram', 'sort_matrix3d', 'sparse_MDS', 'student_t_distribution', 'unconditional_ensemble_simulation', 'uniform_distribution', 'variogram_computer', 'weibull_distribution']
 class BlockModel:
     """
 
@@ -4785,6 +4786,80 @@ def chi_squared_distribution(k: float) -> Distribution:
     >>> round(gravelox.CDF(gravelox.chi_squared_distribution(3)).prob(0.95), 4)
     7.8147
     """
+def compute_angular_distance(A: numpy.typing.ArrayLike, B: numpy.typing.ArrayLike, C: numpy.typing.ArrayLike) -> float:
+    """
+    The angle at a point between the lines to two others, in radians and without orientation.
+
+    Parameters
+    ----------
+    A : array_like of shape (3,)
+        Coordinates of the first point, in length units.
+    B : array_like of shape (3,)
+        Coordinates of the second point.
+    C : array_like of shape (3,)
+        Coordinates of the point where the angle is.
+
+    Returns
+    -------
+    float
+        The angle, 0 to pi / 2: lines in opposite directions make an angle of 0. It is pi / 2 where `A`
+        or `B` is less than 1e-15 from `C`, and pi / 2 or NaN where squares of distances overflow.
+
+    Raises
+    ------
+    ValueError
+        If a coordinate is not finite.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> round(gravelox.compute_angular_distance((1, 0, 0), (-1, 1, 0), (0, 0, 0)), 6)  # pi / 4
+    0.785398
+    """
+def compute_angular_distance_between_clusters(anisotropy: Ellipsoid, locs: numpy.typing.ArrayLike, clusters: numpy.typing.ArrayLike, r_tol: float) -> dict[int, dict[int, float]]:
+    """
+    The least angle between each two clusters where they come close, in degrees.
+
+    For labels a and b this is the least angle of `compute_angular_distance` between a point p of a and
+    a point q of b within `r_tol` of each other, as a third point sees them: a point of b within `r_tol`
+    of p, or the point of b whose position in b is that in a of a point of a within `r_tol` of p. The
+    second rule reads positions in one cluster as positions in another. That is settled, and results
+    rely on it; a position past the end of b is skipped.
+
+    Parameters
+    ----------
+    anisotropy : Ellipsoid
+        The map before distances are taken.
+    locs : array_like of shape (n, 3)
+        Locations in length units.
+    clusters : array_like of int
+        A label for each location, as of `find_clusters`; those below 0 are left out.
+    r_tol : float
+        Radius of neighbours in the space of `anisotropy`, as `Neighborhood` finds them.
+
+    Returns
+    -------
+    dict of int to dict of int to float
+        D[a][b] in degrees, labels in ascending order, a pair of a label with itself included. A pair
+        that does not come close, or has no angle below 90 degrees, has no entry; a label without
+        entries has no row. D[a][b] and D[b][a] may differ.
+
+    Raises
+    ------
+    ValueError
+        If `clusters` and `locs` differ in length, a coordinate or the matrix of `anisotropy` is not
+        finite, `r_tol` is NaN, or the near pairs of two clusters do not fit in memory.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> locs = [(x, 0, 0) for x in range(10)] + [(10, y, 0) for y in range(2, 10)]
+    >>> sphere = gravelox.Rotation(90, 0)
+    >>> labels = [0] * 10 + [1] * 8
+    >>> D = gravelox.compute_angular_distance_between_clusters(sphere, locs, labels, 3.5)
+    >>> D[0][0], sorted(D[0])
+    (0.0, [0, 1])
+    """
 def compute_covariance_error_idw(cov: list[Covariance], folds: list[tuple[list[numpy.ndarray[numpy.float64[3, 1]]], list[float]]], max_distance: float, max_size: int, power_a: float, min_partition_size: int, max_partition_size: int, n_partitions: int, regularization_const: float, n_threads: int = 0, seed: int = 2131) -> float:
     """
     The rating of a covariance model: error of inverse distance estimation, times a penalty on ranges.
@@ -6498,6 +6573,68 @@ def extreme_value_distribution(a: float, b: float) -> Distribution:
     >>> round(gravelox.CDF(gravelox.extreme_value_distribution(1.0, 2.0)).value(1.0), 4)
     0.3679
     """
+def find_clusters(locs: numpy.typing.ArrayLike, anisotropy: Ellipsoid, r_tol: float, angular_tol: float, support_threshold: float, min_support_size: int, n_threads: int = 0) -> list[int]:
+    """
+    Label points that lie on planes and lines, by the angles that triples of nearby points make.
+
+    Neighbours are the points within `r_tol` in the space of `anisotropy`, the point itself included, as
+    `Neighborhood` finds them; angles are taken on real coordinates. The angles of a point i with its
+    neighbour j are those that `compute_angular_distance` gives at each neighbour of j and at each
+    neighbour of i. An angle is narrow if it is strictly below `angular_tol`. The support of i with j is
+    the share of narrow ones.
+
+    A point opens a cluster if the share over all its neighbours is at least `support_threshold`. The
+    cluster goes on from i to j if the share of the two is strictly above it, they have at least
+    `min_support_size` narrow angles, and one at least is at a neighbour of i and one at a neighbour of
+    j. So equality opens a cluster and does not carry it on. A point without any neighbour, itself
+    included (an `r_tol` of 0), opens a cluster of its own.
+
+    Parameters
+    ----------
+    locs : array_like of shape (n, 3)
+        Locations in length units.
+    anisotropy : Ellipsoid
+        The map before distances are taken; `Rotation(90, 0)` for none.
+    r_tol : float
+        Radius of neighbours in that space; a location exactly at it is left out. Negative, it counts by
+        its absolute value.
+    angular_tol : float
+        Tolerance in degrees, by its absolute value. All angles are narrow from above 90 on.
+    support_threshold : float
+        Share of narrow angles, 0 to 1. Above 1 nothing is labelled where points have neighbours.
+    min_support_size : int
+        Least number of narrow angles of two neighbours.
+    n_threads : int
+        Threads; 0 means all. The labels do not depend on it.
+
+    Returns
+    -------
+    list of int
+        Labels 0, 1, 2 ... in the order of the first point of each cluster; -1 for none.
+
+    Raises
+    ------
+    ValueError
+        If a coordinate or the matrix of `anisotropy` is not finite, `r_tol`, `angular_tol` or
+        `support_threshold` is NaN, or the neighbours within `r_tol` do not fit in memory.
+
+    Notes
+    -----
+    The time grows with the square of the number of neighbours: choose `r_tol` for a few dozen. Each
+    neighbour of each location takes 8 bytes.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> import numpy as np
+    >>> t = np.arange(30)
+    >>> east = np.column_stack([t, 0 * t, 0 * t])
+    >>> steep = np.column_stack([0 * t + 40, 0 * t, t])  # 40 m off
+    >>> sphere = gravelox.Rotation(90, 0)
+    >>> labels = gravelox.find_clusters(np.vstack([east, steep]), sphere, 5.0, 5.0, 0.5, 3)
+    >>> labels == [0] * 30 + [1] * 30
+    True
+    """
 def fisher_f_distribution(m: float, n: float) -> Distribution:
     """
     Fisher's F distribution.
@@ -7051,6 +7188,62 @@ def mds_using_random_search(dim: int, initial_guess: list[numpy.ndarray[numpy.fl
     >>> lengths = [np.linalg.norm(found[i] - found[j]) for i, j, _ in triples]
     >>> bool(np.abs(np.array(lengths) - [d for *_, d in triples]).mean() < 0.1), found[0].dtype.name
     (True, 'float32')
+    """
+def merge_clusters(D: dict[int, dict[int, float]], locs: numpy.typing.ArrayLike, clusters: numpy.typing.ArrayLike, ignored_ids: numpy.typing.ArrayLike, angular_tol: float, r_tol: float, ani: Ellipsoid) -> list[int]:
+    """
+    Merge clusters that come close to each other and whose angle is small.
+
+    From each point in turn, whose label c has not been merged yet, a flood runs from point to point
+    within `r_tol`. It takes points of a label y only if `D[c][y]` is there and strictly below
+    `angular_tol`: points of c itself too only if `D[c][c]` is. Labels reached that way are merged into
+    c. The result follows a merger by one step: a label whose target was merged later in turn keeps its
+    first target.
+
+    Parameters
+    ----------
+    D : dict of int to dict of int to float
+        Angles in degrees, as of `compute_angular_distance_between_clusters`.
+    locs : array_like of shape (n, 3)
+        Locations in length units.
+    clusters : array_like of int
+        A label for each location, -1 for none.
+    ignored_ids : array_like of int
+        Labels that stay as they are and stop a flood.
+    angular_tol : float
+        Tolerance in degrees.
+    r_tol : float
+        Radius of neighbours in the space of `ani`, as `Neighborhood` finds them.
+    ani : Ellipsoid
+        The map before distances are taken.
+
+    Returns
+    -------
+    list of int
+        The new label of each location, one of those of `clusters`; -1 stays.
+
+    Raises
+    ------
+    ValueError
+        If `clusters` and `locs` differ in length, a coordinate or the matrix of `ani` is not finite, or
+        `angular_tol` or `r_tol` is NaN.
+    IndexError
+        "invalid map<K, T> key" if a flood from a label that has no row in `D` meets a point whose label
+        is neither -1 nor ignored.
+
+    Notes
+    -----
+    The search is approximate: a gap is sure to be crossed only if `r_tol` is 3.4 times as wide.
+    A cluster of a few points has no row in `D` if it has no angle below 90 degrees: ignore it.
+
+    Examples
+    --------
+    >>> import gravelox
+    >>> locs = [(x, 0, 0) for x in range(20) if x not in (9, 10)]  # a line with a gap of 3
+    >>> labels = [0] * 9 + [1] * 9
+    >>> sphere = gravelox.Rotation(90, 0)
+    >>> D = gravelox.compute_angular_distance_between_clusters(sphere, locs, labels, 10.2)
+    >>> gravelox.merge_clusters(D, locs, labels, [], 10.0, 10.2, sphere) == [0] * 18
+    True
     """
 def moving_window_estimation(target_locs: numpy.typing.ArrayLike, nei: Neighborhood, data_locs: numpy.typing.ArrayLike, data: numpy.typing.ArrayLike, covs: list[Covariance], max_neighbors: int, max_radius: float = -1.0, max_neighbors_octant: int = -1, dhids: numpy.typing.ArrayLike = [], max_neis_by_dhid: int = -1, n_threads: int = 0) -> list[float]:
     """

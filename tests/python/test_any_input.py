@@ -24,9 +24,10 @@ SIMPLE = {
     "numpy.ndarray[numpy.float64[3, 1]]": POINTS,
     "numpy.ndarray[numpy.float64[3, 3]]": st.tuples(POINTS, POINTS, POINTS).map(np.array),
     "tuple[int, int, int]": st.tuples(INTS, INTS, SMALL),
-    "numpy.ndarray[numpy.float64[m, 1]]": st.lists(FLOATS, max_size=9).map(np.array),
+    "numpy.ndarray[numpy.float64[m, 1]]": (POINTS | st.lists(FLOATS, max_size=9)).map(np.array),
     "numpy.ndarray[numpy.float64[m, n]]": ROWS | ROWS.map(np.transpose),
 }
+SIMPLE["dict[int, dict[int, float]]"] = st.dictionaries(SMALL, st.dictionaries(SMALL, FLOATS))
 FOUR = [(0, 0, 0), (1, 0, 0), (0, 2, 0), (0, 0, 0)]
 METRICS = [gravelox.Ellipsoid(np.full((3, 3), value)) for value in (0, math.nan)]
 METRICS.insert(0, gravelox.Ellipsoid(9, 4, 2, 10, 20, 30))
@@ -84,6 +85,7 @@ def values_of(name, kind):
         return SIMPLE[kind]
     if kind.startswith("list["):
         fitting = {"data": [1.0] * 4, "mask": [True] * 4, "dhids": [], "covs": COVS, "folds": FOLDS}
+        fitting.update(clusters=[2, -1, 7, 2], initial_clusters=[2, -1, 7, 2], ignored_ids=[7])
         return st.lists(values_of(name, kind[5:-1]), max_size=9) | st.just(fitting.get(name, FOUR))
     return st.sampled_from([o for o in OBJECTS if type(o).__name__ == kind.rpartition(".")[2]])
 

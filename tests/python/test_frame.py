@@ -15,9 +15,10 @@ def run(script):
 
 
 NAMES = """
-    set_fft_n_threads check_n_threads SpatialFunction EllipsoidInfo Ellipsoid Rotation
-    generate_random_semisphere generate_random_sphere extract_ellipsoid_info sort_matrix3d
-    orthogonolize_axes Direction Neighborhood DynamicNeighborhood
+    set_fft_n_threads check_n_threads compute_angular_distance find_clusters
+    compute_angular_distance_between_clusters merge_clusters SpatialFunction EllipsoidInfo
+    Ellipsoid Rotation generate_random_semisphere generate_random_sphere extract_ellipsoid_info
+    sort_matrix3d orthogonolize_axes Direction Neighborhood DynamicNeighborhood
     optimize_rotation extreme_points generate_rotations generate_ellipsoids
     Kernel Covariance covariance_computer generate_covariances
     CartesianGrid BlockModel BoundingBox create_random_drillholes
@@ -43,13 +44,14 @@ NAMES = """
     create_random_dense_set compute_geodesics compute_geodesic_based_distance_matrix dense_MDS
     sparse_MDS mds_using_random_search
     fft create_random_rotation create_random_orthogonal_matrix PPMT compute_svd_decomposition
-    compute_optimum_rotation GMMParams GMMFitter SCT
-    fft.SpectralData1D fft.project_to_line fft.project_back_to_source
+    compute_optimum_rotation GMMParams GMMFitter SCT grid_detector fft.SpectralData1D
+    fft.project_to_line fft.project_back_to_source grid_detector.detect_grid_aligned_points
+    grid_detector.find_clusters grid_detector.cluster_fusion
 """
 
 
 def test_names_stand_in_the_order_of_registration():
-    spaces = (("", gravelox), ("fft.", gravelox.fft))
+    spaces = ("", gravelox), ("fft.", gravelox.fft), ("grid_detector.", gravelox.grid_detector)
     names = [path + name for path, space in spaces for name in vars(space) if name[:2] != "__"]
     assert names == NAMES.split()
 

@@ -107,6 +107,15 @@ for scale, given in ((gravelox.dense_MDS, TABLE), (gravelox.sparse_MDS, PAIRS)):
     PARALLEL[scale.__name__] = partial(scale, 1, 100, given, n_iterations=1, ntries=1)
 fit_radial = partial(Radial.optimize, *ENDS, 17, 3, 3, n_iterations=1)
 PARALLEL["OptimizedNDProjection.optimize"] = lambda **n: fit_radial(**n).weights
+FLAT, CLUMP = np.zeros((300, 1)), SAMPLES / np.where(np.arange(300) < 100, 300, 5)[:, None]
+LIKE, CLUMPED = (SAMPLES, FLAT, HOOD, 0), (CLUMP, FLAT, gravelox.Neighborhood(CLUMP), 0)
+align, regions, fuse = [*vars(gravelox.grid_detector).values()][-3:]
+PARALLEL["find_clusters"] = partial(gravelox.find_clusters, SAMPLES, METRIC, 0.5, 30, 0.2, 3)
+PARALLEL["grid_detector.find_clusters"] = partial(regions, *CLUMPED, [0], 0.2, 0)
+PARALLEL["grid_detector.cluster_fusion"] = partial(fuse, SAMPLES, range(300), 1.5)
+PARALLEL["grid_detector.detect_grid_aligned_points"] = lambda n_threads: (
+    5.0 ** np.arange(20) @ [align(*LIKE, t / 2, 0, 12, n_threads) for t in range(1, 21)]
+)
 
 
 def numbers(result):
@@ -345,6 +354,20 @@ STATES = [(), 5, ([],), ("ab", "cd"), (([], [], []),), ([1.0], [None]), (([], []
 STATES += [(([], []), "cubic", "idw"), (([], []), 1, 2)]
 loaded = gravelox.Isomorphism.__new__(gravelox.Isomorphism)
 REFUSED += [("state|kernel", loaded.__setstate__, (state,)) for state in STATES]
+NOT_LIKE = [(FLAT[1:], HOOD), ([[0]] * 299 + [[0, 1]], HOOD), (FLAT * math.nan, HOOD)]
+NOT_LIKE += [(FLAT, Hood(TARGETS)), (FLAT, Hood(SAMPLES[::-1]))]
+between, FEW = gravelox.compute_angular_distance_between_clusters, [1] * 299
+REFUSED += [("(features|nei): ", align, (SAMPLES, *own, 0, 1, 0, 9)) for own in NOT_LIKE]
+REFUSED += [
+    ("angle_tolerance_deg: .*0", align, (*LIKE, 0, 0, 9)),
+    ("n_neis: .*-1", align, (*LIKE, 1, 0, -1)),
+    ("background_color: .*1 .*2", regions, (*LIKE, [0, 0], 1, 0)),
+    ("initial_clusters: .*300.*299", fuse, (SAMPLES, FEW, 1)),
+    ("max_distance: .*-1", fuse, (SAMPLES, HOLES, -1)),
+    ("clusters: .*300.*299", gravelox.merge_clusters, ({}, SAMPLES, FEW, [], 1, 1, METRIC)),
+    ("clusters: .*300.*299", between, (METRIC, SAMPLES, FEW, 1)),
+    ("anisotropy: ", gravelox.find_clusters, (SAMPLES, BROKEN, 1, 1, 1, 1)),
+]
 FAILURES = [
     (OverflowError, r"x: .* \[1, 1\] has a probability of 1 ", SCORES.forward, (FAR,)),
     (RuntimeError, "invalid index$", BLOCKS, NULL),
