@@ -203,3 +203,13 @@ def test_a_fold_is_kriged_better_when_it_is_unfolded(tmp_path):
     assert unfolded < 0.8 * axes < 0.8 * plain
     for name in ("fold", "flat_space", "estimates"):
         assert (tmp_path / f"{name}.png").read_bytes()[:4] == b"\x89PNG"
+
+
+def test_planes_are_found_and_merged(tmp_path):
+    command = [sys.executable, EXAMPLES / "structures.py", "--out", tmp_path]
+    ended = subprocess.run(command, capture_output=True, text=True, timeout=120, check=True)
+    found = re.findall(r"^\d +\d+ +(\d+) +(\d+) +\S+ +\d +\d+ +(\d+) +(\d+)$", ended.stdout, re.M)
+    assert len(found) == 3
+    dips = np.array(found, int)
+    assert np.abs(dips[:, :2] - dips[:, 2:]).max() <= 3
+    assert (tmp_path / "structures.png").read_bytes()[:4] == b"\x89PNG"
