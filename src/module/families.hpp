@@ -6,6 +6,8 @@
 
 #include "module/casters.hpp"
 
+#include "common/number.hpp"
+
 namespace gravelox {
 
 void register_frame_module(py::module_& m);
@@ -24,6 +26,15 @@ void register_ensembles(py::module_& m);
 
 void register_spectra_module(py::module_& m);
 void register_rotation_module(py::module_& m);
+
+/// The sub-modules `jet`, `algebra`, `jet.ast` and `ast`.
+void register_language_module(py::module_& m);
+
+/// The expressions over one number type.
+template <number T>
+void register_ast_module(py::module_& m);
+
+void register_ceres_module(py::module_& m);
 void register_mixture_module(py::module_& m);
 
 /// The argument `dhids` of estimators, by default no hole ids.

@@ -23,5 +23,7 @@ PYBIND11_MODULE(gravelox, m) {
   gravelox::register_optimization_module(m);
   gravelox::register_spectra_module(m);
   gravelox::register_rotation_module(m);
+  gravelox::register_language_module(m);
+  gravelox::register_ceres_module(m);
   gravelox::register_mixture_module(m);
 }
