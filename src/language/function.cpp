@@ -266,19 +266,22 @@ T AbstractScalarCost<T>::operator()(const JetList<T>& x) const {
   return detail::scalar_of(program_->run(std::span<const T>(x.values())));
 }
 
-#define GRAVELOX_INSTANTIATE(T)         \
-  template class Function<T>;           \
-  template class CompiledFunction<T>;   \
-  template class ScalarFunction<T>;     \
-  template class TransFunction<T>;      \
-  template class KernelFunction<T>;     \
-  template class Kernel<T>;             \
-  template class AbstractScalarCost<T>; \
-  template TransformationPtr<T> compose(const FunctionPtr<T>&, std::vector<ExpressionPtr<T>>)
+#define GRAVELOX_INSTANTIATE(T)       \
+  template class Function<T>;         \
+  template class CompiledFunction<T>; \
+  template class ScalarFunction<T>;   \
+  template class TransFunction<T>;    \
+  template class KernelFunction<T>;   \
+  template class Kernel<T>;           \
+  template class AbstractScalarCost<T>
 
 GRAVELOX_INSTANTIATE(double);
 GRAVELOX_INSTANTIATE(jet);
 
 #undef GRAVELOX_INSTANTIATE
+
+template TransformationPtr<double> compose(const FunctionPtr<double>&,
+                                           std::vector<ExpressionPtr<double>>);
+template TransformationPtr<jet> compose(const FunctionPtr<jet>&, std::vector<ExpressionPtr<jet>>);
 
 }  // namespace gravelox::ast

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "language/jet_matrix.hpp"
 
+#include <concepts>
 #include <stdexcept>
 #include <utility>
 
@@ -65,8 +66,8 @@ JetMatrix<T> apply(T (*function)(const T&), const JetMatrix<T>& m) {
 template <number T>
 JetMatrix<T> repeat(int n, const JetList<T>& x) {
   check_at_least("n", n, 0);
-  constexpr double doubles_per_element = sizeof(T) / sizeof(double);
-  check_memory("n", doubles_per_element * n * static_cast<double>(x.size() + 1));
+  constexpr int doubles_per_element = std::same_as<T, jet> ? 1 + jet::DIMENSION : 1;
+  check_memory("n", 1.0 * doubles_per_element * n * static_cast<double>(x.size() + 1));
   return JetMatrix<T>(std::vector<JetList<T>>(to_size(n), x));
 }
 

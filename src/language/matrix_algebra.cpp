@@ -3,6 +3,8 @@
 
 #include <Eigen/LU>
 #include <Eigen/SVD>
+#include <algorithm>
+#include <cmath>
 #include <limits>
 #include <utility>
 
@@ -76,9 +78,24 @@ struct decomposition {
   VectorXd inverse_s;  // 0 for a singular value of 0
 };
 
+/// The library decomposes neither empty matrices nor what is not finite: no singular values, or
+/// NaN.
+decomposition factors_of_values(const MatrixXd& values) {
+  const Index n = std::min(values.rows(), values.cols());
+  if (n > 0 && values.allFinite()) {
+    const Eigen::JacobiSVD<MatrixXd> svd(values, Eigen::ComputeThinU | Eigen::ComputeThinV);
+    return {svd.matrixU(), svd.singularValues(), svd.matrixV(), {}, {}};
+  }
+  const double nan = std::numeric_limits<double>::quiet_NaN();
+  return {MatrixXd::Constant(values.rows(), n, nan),
+          VectorXd::Constant(n, nan),
+          MatrixXd::Constant(values.cols(), n, nan),
+          {},
+          {}};
+}
+
 decomposition decompose_values(const MatrixXd& values) {
-  const Eigen::JacobiSVD<MatrixXd> svd(values, Eigen::ComputeThinU | Eigen::ComputeThinV);
-  decomposition result{svd.matrixU(), svd.singularValues(), svd.matrixV(), {}, {}};
+  decomposition result = factors_of_values(values);
   const VectorXd& s = result.s;
   const double rounding = s.size() > 0 ? s[0] * std::numeric_limits<double>::epsilon() : 0.0;
   result.gap.setZero(s.size(), s.size());

@@ -15,13 +15,12 @@ namespace {
 
 using detail::instruction;
 
-// The steps: a scalar's or a vector's form of an operation over two operands or one.
+// The steps: a scalar's or a vector's form of an operation over two operands or one. An operation's
+// kind is set when it is built.
 
 template <number T, typename Operation>
 void of_scalars(const instruction<T>& step, cell<T>* const* cells) {
-  cell<T>& result = *cells[step.result];
-  result.scalar = Operation()(cells[step.left]->scalar, cells[step.right]->scalar);
-  result.kind = variable_kind::scalar;
+  cells[step.result]->scalar = Operation()(cells[step.left]->scalar, cells[step.right]->scalar);
 }
 
 template <number T>
@@ -34,10 +33,9 @@ void of_vectors(const instruction<T>& step, cell<T>* const* cells) {
   const JetList<T>& lhs = cells[step.left]->vector;
   const JetList<T>& rhs = cells[step.right]->vector;
   check_same_length(lhs, rhs);
-  cell<T>& result = *cells[step.result];
-  result.vector.resize(lhs.size());
-  for (std::size_t i = 0; i < lhs.size(); ++i) result.vector[i] = Operation()(lhs[i], rhs[i]);
-  result.kind = variable_kind::vector;
+  JetList<T>& result = cells[step.result]->vector;
+  result.resize(lhs.size());
+  for (std::size_t i = 0; i < lhs.size(); ++i) result[i] = Operation()(lhs[i], rhs[i]);
 }
 
 template <number T>
@@ -45,41 +43,34 @@ void dot_of_vectors(const instruction<T>& step, cell<T>* const* cells) {
   const JetList<T>& lhs = cells[step.left]->vector;
   const JetList<T>& rhs = cells[step.right]->vector;
   check_same_length(lhs, rhs);
-  cell<T>& result = *cells[step.result];
-  result.scalar = dot(lhs, rhs);
-  result.kind = variable_kind::scalar;
+  cells[step.result]->scalar = dot(lhs, rhs);
 }
 
 template <number T>
 void of_scalar(const instruction<T>& step, cell<T>* const* cells) {
-  cell<T>& result = *cells[step.result];
-  result.scalar = step.function(cells[step.left]->scalar);
-  result.kind = variable_kind::scalar;
+  cells[step.result]->scalar = step.function(cells[step.left]->scalar);
 }
 
 template <number T, typename Function>
-void of_elements(const JetList<T>& x, cell<T>& result, const Function& function) {
-  result.vector.resize(x.size());
-  for (std::size_t i = 0; i < x.size(); ++i) result.vector[i] = function(x[i]);
-  result.kind = variable_kind::vector;
+void of_elements(const JetList<T>& x, JetList<T>& result, const Function& function) {
+  result.resize(x.size());
+  for (std::size_t i = 0; i < x.size(); ++i) result[i] = function(x[i]);
 }
 
 template <number T>
 void of_vector(const instruction<T>& step, cell<T>* const* cells) {
-  of_elements(cells[step.left]->vector, *cells[step.result], step.function);
+  of_elements(cells[step.left]->vector, cells[step.result]->vector, step.function);
 }
 
 template <number T>
 void power_of_scalar(const instruction<T>& step, cell<T>* const* cells) {
-  cell<T>& result = *cells[step.result];
-  result.scalar = power(cells[step.left]->scalar, value_of(cells[step.right]->scalar));
-  result.kind = variable_kind::scalar;
+  cells[step.result]->scalar = power(cells[step.left]->scalar, value_of(cells[step.right]->scalar));
 }
 
 template <number T>
 void power_of_vector(const instruction<T>& step, cell<T>* const* cells) {
   const double p = value_of(cells[step.right]->scalar);
-  of_elements(cells[step.left]->vector, *cells[step.result],
+  of_elements(cells[step.left]->vector, cells[step.result]->vector,
               [p](const T& x) { return power(x, p); });
 }
 

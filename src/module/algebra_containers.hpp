@@ -16,6 +16,15 @@
 
 namespace gravelox {
 
+/// Above numpy's arrays and scalars: with one of them on the left the operators here are asked.
+inline void stand_above_arrays(py::object& bound_class) {
+  bound_class.attr("__array_priority__") = 1000;
+}
+
+/// The methods of the class of matrices; its class and that of vectors are registered before.
+template <number T>
+void bind_matrix(py::class_<JetMatrix<T>>& matrix);
+
 /// The positions that a slice of Python's selects.
 inline std::vector<std::size_t> positions_of(const py::slice& slice, std::size_t size) {
   py::ssize_t start = 0;
@@ -56,12 +65,12 @@ void fill_slice(JetList<T>& x, const py::slice& index, const T& value) {
   for (const std::size_t i : positions_of(index, x.size())) x[i] = value;
 }
 
+/// The values come as a copy: they may be of the same vector.
 template <number T>
-void set_slice(JetList<T>& x, const py::slice& index, const JetList<T>& value) {
+void set_slice(JetList<T>& x, const py::slice& index, JetList<T> value) {
   const std::vector<std::size_t> positions = positions_of(index, x.size());
   check_same_size("value", value.size(), positions.size(), "element of the slice");
-  const JetList<T> values = value;  // may be x itself
-  for (std::size_t i = 0; i < positions.size(); ++i) x[positions[i]] = values[i];
+  for (std::size_t i = 0; i < positions.size(); ++i) x[positions[i]] = std::move(value[i]);
 }
 
 template <number T>
