@@ -35,6 +35,11 @@ template <number T>
 void register_ast_module(py::module_& m);
 
 void register_ceres_module(py::module_& m);
+
+/// The sub-modules `transiogram` and `markov_chain`, each with its `jet`.
+void register_transiogram_module(py::module_& m);
+void register_markov_module(py::module_& m);
+
 void register_mixture_module(py::module_& m);
 
 /// The argument `dhids` of estimators, by default no hole ids.
