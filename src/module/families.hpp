@@ -6,6 +6,8 @@
 
 #include "module/casters.hpp"
 
+#include "common/number.hpp"
+
 namespace gravelox {
 
 void register_frame_module(py::module_& m);
@@ -31,6 +33,20 @@ void register_graphs(py::module_& m);
 
 void register_spectra_module(py::module_& m);
 void register_rotation_module(py::module_& m);
+
+/// The sub-modules `jet`, `algebra`, `jet.ast` and `ast`.
+void register_language_module(py::module_& m);
+
+/// The expressions over one number type.
+template <number T>
+void register_ast_module(py::module_& m);
+
+void register_ceres_module(py::module_& m);
+
+/// The sub-modules `transiogram` and `markov_chain`, each with its `jet`.
+void register_transiogram_module(py::module_& m);
+void register_markov_module(py::module_& m);
+
 void register_mixture_module(py::module_& m);
 void register_grid_detector_module(py::module_& m);
 

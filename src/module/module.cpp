@@ -24,6 +24,10 @@ PYBIND11_MODULE(gravelox, m) {
   gravelox::register_optimization_module(m);
   gravelox::register_spectra_module(m);
   gravelox::register_rotation_module(m);
+  gravelox::register_language_module(m);
+  gravelox::register_ceres_module(m);
+  gravelox::register_transiogram_module(m);
+  gravelox::register_markov_module(m);
   gravelox::register_mixture_module(m);
   gravelox::register_grid_detector_module(m);
 }

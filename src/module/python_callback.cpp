@@ -50,9 +50,9 @@ callback_release::~callback_release() {
   if (mutex_ != nullptr) take_turn(*mutex_);
 }
 
-python_callback::python_callback(py::object callable) {
+python_callback::python_callback(py::object callable, const char* name) {
   if (PyCallable_Check(callable.ptr()) == 0) {
-    throw py::type_error("python_callback: expected a callable, got " +
+    throw py::type_error(std::string(name) + ": expected a callable, got " +
                          std::string(py::str(py::type::of(callable))));
   }
   // The last copy may go on any thread, with or without the interpreter lock.

@@ -51,8 +51,11 @@ class callback_release {
 /// A Python callable as library code holds it: any thread may copy, call and drop it.
 class python_callback {
  public:
-  /// Throws TypeError for what cannot be called.
-  explicit python_callback(py::object callable);
+  /// Throws TypeError, for an argument of this name, for what cannot be called.
+  explicit python_callback(py::object callable, const char* name = "python_callback");
+
+  /// The callable, for Python's collector.
+  PyObject* object() const { return callable_->ptr(); }
 
   /// convert(callable(args...)), with the interpreter lock and the turn taken for the conversions
   /// too. A Python exception passes through as it is.
