@@ -20,6 +20,7 @@ for library in ("OMP", "OPENBLAS", "MKL", "BLIS", "NUMBA"):
 
 import estimation_figures  # noqa: E402
 import grid_variogram_figures  # noqa: E402
+import language_figures  # noqa: E402
 import multivariate_figures  # noqa: E402
 import optimization_figures  # noqa: E402
 import simulation_figures  # noqa: E402
@@ -35,6 +36,7 @@ FAMILIES = (
     simulation_figures,
     optimization_figures,
     multivariate_figures,
+    language_figures,
 )
 BENCHMARKS = {figure.__name__: figure for family in FAMILIES for figure in family.FIGURES}
 

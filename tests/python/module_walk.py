@@ -34,7 +34,7 @@ def members(space=gravelox, path=""):
             yield path + name, value.__doc__
             for member, made in vars(value).items() if isinstance(value, type) else ():
                 doc = getattr(made, "__func__", made).__doc__ or ""
-                if not isinstance(made, str) and SIGNATURE.search(doc):
+                if not isinstance(made, (int, str)) and SIGNATURE.search(doc):
                     yield f"{path}{name}.{member}", doc
 
 
