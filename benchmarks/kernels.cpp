@@ -15,6 +15,7 @@
 #include <array>
 #include <atomic>
 #include <cmath>
+#include <concepts>
 #include <cstddef>
 #include <cstdint>
 #include <ctime>
@@ -22,6 +23,7 @@
 #include <numbers>
 #include <numeric>
 #include <span>
+#include <string_view>
 #include <vector>
 
 #include "common/integer.hpp"
@@ -32,6 +34,9 @@
 #include "estimation/inverse_distance.hpp"
 #include "estimation/kriging.hpp"
 #include "estimation/random_partitions.hpp"
+#include "language/elementary.hpp"
+#include "language/function.hpp"
+#include "language/operators.hpp"
 #include "optimization/covariance_error.hpp"
 #include "optimization/covariance_search.hpp"
 #include "optimization/ellipsoid_search.hpp"
@@ -520,6 +525,52 @@ void rating_allocations(benchmark::State& state) {
   state.counters["a_partition"] = more / static_cast<double>(run.n_partitions);
 }
 
+template <number T>
+ast::ExpressionPtr<T> apply(std::string_view name, const ast::ExpressionPtr<T>& x) {
+  const auto functions = elementary_functions<T>();
+  const auto found = std::find_if(functions.begin(), functions.end(),
+                                  [&](const auto& function) { return function.name == name; });
+  return ast::apply<T>(found->apply, x);
+}
+
+/// sqrt(nugget + sill (1 - exp(lag rate)) + far_sill (1 - exp(lag far_rate))).
+template <number T>
+ast::FunctionPtr<T> deviation() {
+  using enum ast::arithmetic;
+  using node = ast::ExpressionPtr<T>;
+  std::vector<ast::VariablePtr<T>> args;
+  for (const char* name : {"lag", "nugget", "sill", "rate", "far_sill", "far_rate"}) {
+    args.push_back(std::make_shared<ast::Variable<T>>(name, T(0.0)));
+  }
+  const auto structure = [&](const node& sill, const node& rate) {
+    const node kept = apply<T>("exp", ast::combine<T>(product, args[0], rate));
+    const node one = std::make_shared<ast::Value<T>>(T(1.0));
+    return ast::combine<T>(product, sill, ast::combine<T>(difference, one, kept));
+  };
+  const node near = ast::combine<T>(sum, args[1], structure(args[2], args[3]));
+  const node semivariance = ast::combine<T>(sum, near, structure(args[4], args[5]));
+  return std::make_shared<ast::Function<T>>(args, apply<T>("sqrt", semivariance));
+}
+
+/// An evaluation of a compiled function of 20 nodes; over jets with derivatives by all arguments.
+template <number T>
+void expression(benchmark::State& state) {
+  const ast::ScalarFunction<T> compiled(deviation<T>());
+  JetList<T> args{T(0.7), T(0.1), T(0.4), T(-1.5), T(0.5), T(-0.5)};
+  if constexpr (std::same_as<T, jet>) {
+    for (std::size_t i = 0; i < args.size(); ++i) args[i].v[to_index(i)] = 1.0;
+  }
+  T result(0.0);
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(args.begin());
+    result = compiled(args);
+    benchmark::DoNotOptimize(&result);
+    benchmark::ClobberMemory();
+  }
+  state.SetItemsProcessed(state.iterations());
+  state.counters["result"] = value_of(result);
+}
+
 // Short runs: the machine may be shared, and of several short ones some are undisturbed.
 constexpr double min_seconds = 0.1;
 
@@ -539,6 +590,8 @@ BENCHMARK(search_partitions)->MinTime(min_seconds)->Arg(500)->Arg(2000);
 BENCHMARK(rating)->MinTime(min_seconds);
 BENCHMARK(rating_floor)->MinTime(min_seconds)->Arg(0)->Arg(1);
 BENCHMARK(rating_allocations)->Iterations(1);
+BENCHMARK(expression<double>)->MinTime(min_seconds);
+BENCHMARK(expression<jet>)->MinTime(min_seconds);
 
 }  // namespace
 

@@ -21,6 +21,7 @@ for library in ("OMP", "OPENBLAS", "MKL", "BLIS", "NUMBA"):
 import detection_figures  # noqa: E402
 import estimation_figures  # noqa: E402
 import grid_variogram_figures  # noqa: E402
+import language_figures  # noqa: E402
 import multivariate_figures  # noqa: E402
 import optimization_figures  # noqa: E402
 import projection_figures  # noqa: E402
@@ -39,6 +40,7 @@ FAMILIES = (
     multivariate_figures,
     projection_figures,
     detection_figures,
+    language_figures,
 )
 BENCHMARKS = {figure.__name__: figure for family in FAMILIES for figure in family.FIGURES}
 

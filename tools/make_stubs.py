@@ -28,13 +28,22 @@ STUBGEN = [
 ARRAY = r"numpy\.ndarray\[numpy\.float64\[[^]]*\]\]"
 ARRAY_LIKE = re.compile(rf"(?<=: )(?:{ARRAY}|list\[(?:{ARRAY}|float|int|bool)\])(?=,|\)| =| \|)")
 
+# Numbers, vectors and matrices of the language, for which floats and lists do.
+JET = re.compile(r"(?<=: )((?:gravelox\.algebra\.)?Jet)(?=,|\)| =)")
+JETS = re.compile(
+    r"(?<=: )(?:list\[)?((?:gravelox\.algebra\.)?(?:Real|Jet)(?:Vector|Matrix))\]?(?=,|\)| =)"
+)
+
 
 def widen_parameters(line: str) -> str:
-    """Lets arrays, lists and tuples pass for points, vectors and lists of numbers."""
+    """Lets arrays, lists and tuples pass for points, vectors, matrices and lists of numbers."""
     parameters, arrow, result = line.rpartition(" -> ")
     if not line.lstrip().startswith("def ") or not arrow:
         return line
-    return ARRAY_LIKE.sub("numpy.typing.ArrayLike", parameters) + arrow + result
+    parameters = ARRAY_LIKE.sub("numpy.typing.ArrayLike", parameters)
+    parameters = JET.sub(r"\1 | float", parameters)
+    parameters = JETS.sub(r"\1 | typing.Sequence[typing.Any] | numpy.ndarray", parameters)
+    return parameters + arrow + result
 
 
 def finish(text: str) -> str:

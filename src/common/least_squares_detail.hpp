@@ -7,6 +7,7 @@
 #include <ceres/evaluation_callback.h>
 #include <ceres/problem.h>
 
+#include <cmath>
 #include <cstddef>
 #include <functional>
 #include <memory>
@@ -14,6 +15,7 @@
 #include <utility>
 #include <vector>
 
+#include "common/checks.hpp"
 #include "common/integer.hpp"
 #include "common/report.hpp"
 
@@ -27,9 +29,14 @@ constexpr double memory_of_fit(double n_residuals, double n_parameters) {
   return 3.0 * n_residuals * n_parameters;
 }
 
-/// The scale of a Cauchy loss for an argument of scripts: below 1e-10 there is none.
-constexpr double loss_scale_of(double cauchy_loss) {
-  return cauchy_loss >= 1e-10 ? cauchy_loss : 0.0;
+/// The scale of a Cauchy loss for an argument of scripts: below 1e-10, and for NaN, there is none.
+/// The loss takes its square: std::invalid_argument where that is not finite.
+inline double loss_scale_of(double cauchy_loss) {
+  if (!(cauchy_loss >= 1e-10)) return 0.0;
+  if (!std::isfinite(cauchy_loss * cauchy_loss)) {
+    refuse("cauchy_loss", "a number with a finite square", cauchy_loss);
+  }
+  return cauchy_loss;
 }
 
 /// How the solver runs. With `debug` its progress and its report are printed, otherwise its log is

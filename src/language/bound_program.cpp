@@ -52,7 +52,8 @@ bound_program<T>::bound_program(Function<T>& function) {
   }
   args_.reserve(function.args().size());
   for (const VariablePtr<T>& arg : function.args()) {
-    args_.push_back({plan.cell_of_leaf(*arg).value_or(unread), arg->kind()});
+    args_.push_back(
+        {plan.cell_of_leaf(*arg).value_or(unread), plan.reads(*arg, variable_kind::vector)});
   }
 }
 
@@ -72,11 +73,8 @@ const cell<T>& bound_program<T>::run(std::span<const U> inputs) const {
   for (std::size_t i = 0; i < std::min(inputs.size(), args_.size()); ++i) {
     if (args_[i].cell == unread) continue;
     cell<T>& bound = *cells[args_[i].cell];
-    if (args_[i].kind == variable_kind::scalar) {
-      bound.scalar = T(inputs[i]);
-    } else {
-      set_first(bound.vector, T(inputs[i]));
-    }
+    bound.scalar = T(inputs[i]);
+    if (args_[i].is_vector) set_first(bound.vector, T(inputs[i]));
   }
   return finish(cells);
 }
@@ -89,12 +87,10 @@ const cell<T>& bound_program<T>::run(U const* const* vectors,
   for (std::size_t i = 0; i < std::min(sizes.size(), args_.size()); ++i) {
     if (args_[i].cell == unread) continue;
     cell<T>& bound = *cells[args_[i].cell];
-    if (args_[i].kind == variable_kind::scalar) {
-      bound.scalar = T(vectors[i][0]);
-    } else {
-      bound.vector.resize(sizes[i]);
-      for (std::size_t k = 0; k < sizes[i]; ++k) bound.vector[k] = T(vectors[i][k]);
-    }
+    bound.scalar = T(vectors[i][0]);
+    if (!args_[i].is_vector) continue;
+    bound.vector.resize(sizes[i]);
+    for (std::size_t k = 0; k < sizes[i]; ++k) bound.vector[k] = T(vectors[i][k]);
   }
   return finish(cells);
 }

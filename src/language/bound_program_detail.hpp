@@ -23,20 +23,24 @@ T scalar_of(const cell<T>& result);
 
 /// The steps of a function, with the values that its leaves have when it is made (their derivatives
 /// are left out: a run's come from its inputs). Runs work in the memory of their thread, so that
-/// any number of threads may run programs of trees with variables in common.
+/// any number of threads may run programs of trees with variables in common. That memory, some 100
+/// bytes a step, is as large as the thread's largest program took it, and lasts as long as the
+/// thread.
 template <number T>
 class bound_program {
  public:
   explicit bound_program(Function<T>& function);
 
-  std::size_t n_args() const { return args_.size(); }
+  /// Whether the body reads an argument as a vector.
+  bool reads_vector(std::size_t arg) const { return arg < args_.size() && args_[arg].is_vector; }
 
   /// Whether a result depends on lengths of vectors, which a run checks.
   bool has_vectors() const { return !vectors_.empty(); }
 
   /// The result for one number for each of the first arguments, or for one vector each of these
-  /// sizes, as compiled functions bind them. Doubles are inputs without derivatives. The result
-  /// holds until the thread's next run.
+  /// sizes, none of them empty. A number counts as element 0 where the body reads a vector, and
+  /// element 0 of a vector where it reads a number. Doubles are inputs without derivatives. The
+  /// result holds until the thread's next run.
   template <number U>
   const cell<T>& run(std::span<const U> inputs) const;
   template <number U>
@@ -53,7 +57,7 @@ class bound_program {
   };
   struct argument {
     std::uint32_t cell;
-    variable_kind kind;
+    bool is_vector;
   };
 
   void store_leaf(const planner<T>& plan, const Expression<T>& leaf, std::uint32_t number);

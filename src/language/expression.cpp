@@ -48,12 +48,6 @@ Expression<T>::~Expression() {
 }
 
 template <number T>
-JetList<T> Expression<T>::vec() const {
-  const bool was_set = kind() == variable_kind::vector || !result_.vector.empty();
-  return was_set ? result_.vector : JetList<T>(1);
-}
-
-template <number T>
 void Expression<T>::print() const {
   std::string text =
       text_of("type = ", name_of(type()), " variable_type = ", name_of(kind()), " value = ");
@@ -134,7 +128,6 @@ template <number T>
 Variable<T>::Variable(std::string name, const T& scalar)
     : Expression<T>(object_type::variable, variable_kind::scalar), name_(std::move(name)) {
   this->result_.scalar = scalar;
-  this->result_.vector.resize(1);
 }
 
 template <number T>
@@ -147,7 +140,6 @@ template <number T>
 Variable<T>::Variable(std::string name, const ExpressionPtr<T>& start)
     : Expression<T>(object_type::variable, variable_kind::scalar), name_(std::move(name)) {
   if (!start) throw std::runtime_error("Invalid argument!!!");
-  this->result_.vector.resize(1);
   if (start->kind() == variable_kind::scalar) {
     eval(start->eval());
   } else {

@@ -72,10 +72,7 @@ class Expression {
 
   /// The current results as they are: zero, and a vector of one zero, before there is any.
   const T& scalar() const { return result_.scalar; }
-  JetList<T> vec() const;
-
-  /// The vector as it is kept: without elements before there is any.
-  const JetList<T>& last_vector() const { return result_.vector; }
+  const JetList<T>& vec() const { return result_.vector; }
 
   /// Writes type, kind and value to the standard output. After a scalar the line ends; the elements
   /// of a vector stand in brackets, each with ", " after it, and the line stays open. Derivatives
@@ -102,9 +99,7 @@ class Expression {
   using children = std::vector<std::shared_ptr<Expression>>;
 
   Expression(object_type type, variable_kind kind, children operands = {})
-      : operands_(std::move(operands)), type_(type) {
-    result_.kind = kind;
-  }
+      : operands_(std::move(operands)), result_{kind, T(0.0), JetList<T>(1)}, type_(type) {}
 
   /// Plans and runs an evaluation of the tree below, in place.
   void evaluate(variable_kind form);

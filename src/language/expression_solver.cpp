@@ -24,25 +24,6 @@ using gravelox::detail::least_squares_problem;
 using blocks = least_squares_problem::parameter_blocks;
 using program = detail::bound_program<jet>;
 
-/// Gives all variables one kind for as long as it lives.
-class kinds_as_scalars {
- public:
-  explicit kinds_as_scalars(const std::vector<VariablePtr<jet>>& variables)
-      : variables_(variables) {
-    for (const VariablePtr<jet>& variable : variables_) kinds_.push_back(variable->kind());
-    for (const VariablePtr<jet>& variable : variables_) variable->set_kind(variable_kind::scalar);
-  }
-  ~kinds_as_scalars() {
-    for (std::size_t i = 0; i < kinds_.size(); ++i) variables_[i]->set_kind(kinds_[i]);
-  }
-  kinds_as_scalars(const kinds_as_scalars&) = delete;
-  kinds_as_scalars& operator=(const kinds_as_scalars&) = delete;
-
- private:
-  const std::vector<VariablePtr<jet>>& variables_;
-  std::vector<variable_kind> kinds_;
-};
-
 template <typename Problem>
 void check_problem(const Problem& problem) {
   check_not_empty("variables", problem.variables.size());
@@ -143,12 +124,18 @@ void check_fit_memory(std::size_t n_residuals, std::size_t n_parameters) {
   check_memory("costs", n_doubles);
 }
 
-void add_costs(const scalar_problem& problem, double loss_scale, least_squares_problem& fit) {
+std::vector<program> plan_costs(const std::vector<FunctionPtr<jet>>& functions) {
+  std::vector<program> costs;
+  costs.reserve(functions.size());
+  for (const FunctionPtr<jet>& function : functions) costs.emplace_back(*function);
+  return costs;
+}
+
+void add_scalar_costs(std::vector<program> costs, double loss_scale, least_squares_problem& fit) {
   const std::vector<double>& start = fit.parameters();
-  check_fit_memory(problem.costs.size(), start.size());
+  check_fit_memory(costs.size(), start.size());
   cost_collector<detail::scalar_costs, std::size_t> collector(fit, start.size(), loss_scale);
-  for (const FunctionPtr<jet>& function : problem.costs) {
-    program cost(*function);
+  for (program& cost : costs) {
     // What an evaluation refuses is refused here, before the solver runs.
     if (cost.has_vectors()) cost.run(std::span<const double>(start));
     collector.add(std::move(cost), 1);
@@ -156,7 +143,7 @@ void add_costs(const scalar_problem& problem, double loss_scale, least_squares_p
   collector.finish_block();
 }
 
-void add_costs(const vector_problem& problem, double loss_scale, least_squares_problem& fit) {
+void add_vector_costs(std::vector<program> costs, double loss_scale, least_squares_problem& fit) {
   std::vector<std::size_t> sizes;
   std::vector<const double*> start;
   for (const std::vector<double>& block : fit.blocks()) {
@@ -166,8 +153,7 @@ void add_costs(const vector_problem& problem, double loss_scale, least_squares_p
   const std::size_t n_parameters = std::accumulate(sizes.begin(), sizes.end(), std::size_t{0});
   cost_collector<detail::vector_costs, std::vector<std::size_t>> collector(fit, sizes, loss_scale);
   std::size_t n_residuals = 0;
-  for (const FunctionPtr<jet>& function : problem.costs) {
-    program cost(*function);
+  for (program& cost : costs) {
     const cell<jet>& result = cost.run(start.data(), sizes);
     const std::size_t n = result.kind == variable_kind::scalar ? 1 : result.vector.size();
     n_residuals += n;
@@ -177,17 +163,18 @@ void add_costs(const vector_problem& problem, double loss_scale, least_squares_p
   collector.finish_block();
 }
 
-/// Fits the costs of a problem, and gives the final blocks and cost.
-template <typename Problem>
-std::pair<blocks, double> fit_costs(const Problem& problem, blocks start,
-                                    const std::vector<bound>& bounds, const solver_options& options,
-                                    const std::function<bool(const blocks&)>& go_on) {
+blocks moved_onto(const std::vector<bound>& bounds, blocks start) {
   for (const bound& limits : bounds) {
     double& value = start[limits.block][limits.parameter];
     value = std::min(std::max(value, limits.lower), limits.upper);
   }
-  least_squares_problem fit(std::move(start));
-  add_costs(problem, gravelox::detail::loss_scale_of(options.cauchy_loss), fit);
+  return start;
+}
+
+/// Solves a fit that has its costs, and gives the final blocks and cost.
+std::pair<blocks, double> solve_fit(least_squares_problem& fit, const std::vector<bound>& bounds,
+                                    const solver_options& options,
+                                    const std::function<bool(const blocks&)>& go_on) {
   for (const bound& limits : bounds) {
     fit.set_bounds(limits.block, limits.parameter, limits.lower, limits.upper);
   }
@@ -216,8 +203,16 @@ std::pair<blocks, double> fit_costs(const Problem& problem, blocks start,
 
 std::vector<double> start_value(const Variable<jet>& variable) {
   if (variable.kind() == variable_kind::scalar) return {value_of(variable.scalar())};
-  check_not_empty("variable " + variable.name(), variable.last_vector().size());
-  return values_of(variable.last_vector());
+  check_not_empty("variable " + variable.name(), variable.vec().size());
+  return values_of(variable.vec());
+}
+
+/// Where costs read a vector as one, its element 0 is what a scalar fit changes.
+double scalar_start_value(const Variable<jet>& variable, std::size_t arg,
+                          const std::vector<program>& costs) {
+  const bool is_read = std::any_of(costs.begin(), costs.end(),
+                                   [&](const program& cost) { return cost.reads_vector(arg); });
+  return is_read ? start_value(variable).front() : value_of(variable.scalar());
 }
 
 }  // namespace
@@ -225,17 +220,21 @@ std::vector<double> start_value(const Variable<jet>& variable) {
 solution<scalar_problem::values> solve(const scalar_problem& problem, const solver_options& options,
                                        const validation<scalar_problem::values>& go_on) {
   check_problem(problem);
-  const kinds_as_scalars scalars(problem.variables);
+  const double loss_scale = gravelox::detail::loss_scale_of(options.cauchy_loss);
+  const std::vector<bound> bounds = bounds_of(problem);
+  std::vector<program> costs = plan_costs(problem.costs);
   blocks start(1);
-  for (const VariablePtr<jet>& variable : problem.variables) {
-    start.front().push_back(value_of(variable->scalar()));
+  for (std::size_t i = 0; i < problem.variables.size(); ++i) {
+    start.front().push_back(scalar_start_value(*problem.variables[i], i, costs));
   }
+  least_squares_problem fit(moved_onto(bounds, std::move(start)));
+  add_scalar_costs(std::move(costs), loss_scale, fit);
   std::function<bool(const blocks&)> validate;
   if (go_on) validate = [&](const blocks& current) { return go_on(current.front()); };
-  const auto fit = fit_costs(problem, std::move(start), bounds_of(problem), options, validate);
-  solution<scalar_problem::values> result{{}, fit.second};
+  const auto found = solve_fit(fit, bounds, options, validate);
+  solution<scalar_problem::values> result{{}, found.second};
   for (std::size_t i = 0; i < problem.variables.size(); ++i) {
-    result.values[problem.variables[i]->name()] = fit.first.front()[i];
+    result.values[problem.variables[i]->name()] = found.first.front()[i];
   }
   return result;
 }
@@ -243,15 +242,18 @@ solution<scalar_problem::values> solve(const scalar_problem& problem, const solv
 solution<vector_problem::values> solve(const vector_problem& problem, const solver_options& options,
                                        const validation<vector_problem::values>& go_on) {
   check_problem(problem);
+  const double loss_scale = gravelox::detail::loss_scale_of(options.cauchy_loss);
   blocks start;
   for (const VariablePtr<jet>& variable : problem.variables) {
     start.push_back(start_value(*variable));
   }
   const std::vector<bound> bounds = bounds_of(problem, start);
-  const auto fit = fit_costs(problem, std::move(start), bounds, options, go_on);
-  solution<vector_problem::values> result{{}, fit.second};
+  least_squares_problem fit(moved_onto(bounds, std::move(start)));
+  add_vector_costs(plan_costs(problem.costs), loss_scale, fit);
+  const auto found = solve_fit(fit, bounds, options, go_on);
+  solution<vector_problem::values> result{{}, found.second};
   for (std::size_t i = 0; i < problem.variables.size(); ++i) {
-    result.values[problem.variables[i]->name()] = fit.first[i];
+    result.values[problem.variables[i]->name()] = found.first[i];
   }
   return result;
 }

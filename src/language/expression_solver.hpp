@@ -6,7 +6,7 @@
 //
 // Each cost is planned once, with the values of its constants and free variables. Evaluations touch
 // no node: costs may share variables and run on any number of threads, on which no result depends.
-// Variables keep their values and kinds.
+// Variables are read alone: they keep their values and kinds.
 
 #include <functional>
 #include <map>
@@ -41,7 +41,8 @@ struct scalar_problem {
 
   std::vector<FunctionPtr<jet>> costs;
 
-  /// All count as scalars. Start values outside their bounds are moved onto them.
+  /// All count as scalars, and where a cost reads a vector by its element 0. Start values outside
+  /// their bounds are moved onto them.
   std::vector<VariablePtr<jet>> variables;
 
   /// Lower and upper bounds by name; names of no variable have no effect.
@@ -76,7 +77,8 @@ template <typename Values>
 using validation = std::function<bool(const Values&)>;
 
 /// Throws std::invalid_argument for no variable, a variable or cost that is none, an empty vector
-/// variable, more arguments of a cost than variables, bounds that are NaN or too few;
+/// variable, more arguments of a cost than variables, bounds that are NaN or too few, a loss whose
+/// scale has no finite square;
 /// std::runtime_error with the solver's message for what it refuses, such as a lower bound that is
 /// not below its upper one or a start that is not finite, and where it fails at the start.
 solution<scalar_problem::values> solve(const scalar_problem& problem, const solver_options& options,

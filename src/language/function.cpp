@@ -2,7 +2,6 @@
 #include "language/function.hpp"
 
 #include <algorithm>
-#include <span>
 #include <stdexcept>
 #include <utility>
 
@@ -63,30 +62,28 @@ class Composition final : public Transformation<T> {
       plan.visit(function_.body(), form);
     } else {
       plan.leave_scope();
-      const auto run =
-          form == variable_kind::scalar ? detail::copy_scalar<T> : detail::copy_vector<T>;
-      plan.emit_result(*this, form, {.run = run, .left = plan.take_operand()});
+      plan.emit_result(*this, form, {.run = detail::copy_of<T>(form), .left = plan.take_operand()});
     }
   }
 
   std::vector<binding> bindings(detail::planner<T>& plan) const {
     std::vector<binding> result;
     for (std::size_t i = kinds_.size(); i-- > 0;) {
-      result.push_back(bound(plan, *function_.args()[i], kinds_[i], plan.take_operand()));
+      Variable<T>& argument = *function_.args()[i];
+      result.push_back({&argument, bound(plan, argument, kinds_[i], plan.take_operand())});
     }
     // Of an argument that is listed twice the later place counts, as when they are stored in turn.
     return result;
   }
 
-  static binding bound(detail::planner<T>& plan, Variable<T>& argument, variable_kind kind,
-                       std::uint32_t cell) {
-    if (argument.kind() == kind) return {&argument, kind, cell};
+  static detail::bound_value bound(detail::planner<T>& plan, Variable<T>& argument,
+                                   variable_kind kind, std::uint32_t cell) {
+    if (argument.kind() == kind) return {kind, cell};
     if (argument.kind() == variable_kind::scalar) {
-      return {&argument, variable_kind::scalar,
-              plan.emit({.run = detail::take_first<T>, .left = cell})};
+      return {variable_kind::scalar, plan.emit({.run = detail::take_first<T>, .left = cell})};
     }
     const std::uint32_t own = plan.leaf_cell(argument, variable_kind::vector);
-    return {&argument, variable_kind::vector,
+    return {variable_kind::vector,
             plan.emit({.run = detail::replace_first<T>, .left = own, .right = cell})};
   }
 
@@ -145,8 +142,7 @@ void Function<T>::open(detail::planner<T>& plan, variable_kind form) {
 
 template <number T>
 void Function<T>::close(detail::planner<T>& plan, variable_kind form, int /*stage*/) {
-  const auto run = form == variable_kind::scalar ? detail::copy_scalar<T> : detail::copy_vector<T>;
-  plan.emit_result(*this, form, {.run = run, .left = plan.take_operand()});
+  plan.emit_result(*this, form, {.run = detail::copy_of<T>(form), .left = plan.take_operand()});
 }
 
 template <number T>
@@ -183,7 +179,7 @@ template <number T>
 T CompiledFunction<T>::scalar_result() const {
   const variable_kind form = function_->body().kind();
   run(form);
-  return form == variable_kind::scalar ? function_->scalar() : norm(function_->last_vector());
+  return form == variable_kind::scalar ? function_->scalar() : norm(function_->vec());
 }
 
 template <number T>
@@ -191,13 +187,15 @@ JetList<T> CompiledFunction<T>::vector_result() const {
   const variable_kind form = function_->body().kind();
   run(form);
   if (form == variable_kind::scalar) return JetList<T>(1, function_->scalar());
-  return function_->last_vector();
+  return function_->vec();
 }
 
 template <number T>
 void CompiledFunction<T>::run(variable_kind form) const {
   auto& plan = form == variable_kind::scalar ? plans_->of_scalar : plans_->of_vector;
-  if (!plan) plan = std::make_unique<detail::program<T>>(*function_, form);
+  if (!plan || !plan->is_current()) {
+    plan = std::make_unique<detail::program<T>>(*function_, form);
+  }
   plan->run();
 }
 
@@ -254,26 +252,13 @@ void Kernel<T>::open(detail::planner<T>& /*plan*/, variable_kind /*form*/) {
   refuse_call();
 }
 
-template <number T>
-AbstractScalarCost<T>::AbstractScalarCost(const FunctionPtr<T>& function) {
-  if (!function) refuse_argument();
-  program_ = std::make_shared<const detail::bound_program<T>>(*function);
-}
-
-template <number T>
-T AbstractScalarCost<T>::operator()(const JetList<T>& x) const {
-  detail::check_n_inputs(x.size(), program_->n_args());
-  return detail::scalar_of(program_->run(std::span<const T>(x.values())));
-}
-
 #define GRAVELOX_INSTANTIATE(T)       \
   template class Function<T>;         \
   template class CompiledFunction<T>; \
   template class ScalarFunction<T>;   \
   template class TransFunction<T>;    \
   template class KernelFunction<T>;   \
-  template class Kernel<T>;           \
-  template class AbstractScalarCost<T>
+  template class Kernel<T>
 
 GRAVELOX_INSTANTIATE(double);
 GRAVELOX_INSTANTIATE(jet);

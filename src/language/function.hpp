@@ -15,8 +15,6 @@ namespace gravelox::ast {
 namespace detail {
 template <number T>
 struct plans;
-template <number T>
-class bound_program;
 }  // namespace detail
 
 /// A body with arguments. As a node it gives what its body gives with the arguments' own values.
@@ -51,7 +49,11 @@ using FunctionPtr = std::shared_ptr<Function<T>>;
 
 /// The function of expressions: its body with each of the first arguments replaced by the listed
 /// expression in its place. A scalar argument takes element 0 of a vector, a scalar goes to element
-/// 0 of a vector argument. The arguments' own values do not change.
+/// 0 of a vector argument.
+///
+/// All expressions are worked out before the body, and when the evaluation ends the arguments keep
+/// what they were bound to, last of all by their last composition in it. Until then variables have
+/// their own values everywhere but in the body.
 ///
 /// Throws std::runtime_error "Invalid argument!!!" for no function, or a listed expression that is
 /// none or a kernel; std::invalid_argument for more expressions than arguments.
@@ -135,19 +137,12 @@ class Kernel final : public Expression<T> {
   KernelFunction<T> function_;
 };
 
-/// One scalar cost of a fit: a function at a list of scalars, by position. It takes the variables'
-/// values and kinds as they are when it is made, and changes none; several threads may call it at
-/// once. Derivatives come from the inputs alone.
+/// A cost as a script sees it: its function at a list of scalars. The solver evaluates costs by
+/// plans of its own, which touch no node.
 template <number T>
-class AbstractScalarCost {
+class AbstractScalarCost : public ScalarFunction<T> {
  public:
-  explicit AbstractScalarCost(const FunctionPtr<T>& function);
-
-  /// Throws std::invalid_argument for more inputs than arguments.
-  T operator()(const JetList<T>& x) const;
-
- private:
-  std::shared_ptr<const detail::bound_program<T>> program_;
+  using ScalarFunction<T>::ScalarFunction;
 };
 
 }  // namespace gravelox::ast

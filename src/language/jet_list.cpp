@@ -2,9 +2,9 @@
 #include "language/jet_list.hpp"
 
 #include <cmath>
-#include <stdexcept>
 
 #include "common/checks.hpp"
+#include "common/text.hpp"
 #include "language/elementary.hpp"
 
 namespace gravelox {
@@ -12,11 +12,6 @@ namespace gravelox {
 namespace {
 
 using std::sqrt;
-
-template <number T>
-void check_same_length(const JetList<T>& x, const JetList<T>& y) {
-  check_same_size("vector", y.size(), x.size(), "element of the other vector");
-}
 
 template <number T, typename Operation>
 JetList<T> combine(const JetList<T>& x, const JetList<T>& y, const Operation& operation) {
@@ -36,15 +31,14 @@ JetList<T> transform(const JetList<T>& x, const Operation& operation) {
 }  // namespace
 
 template <number T>
-T& JetList<T>::at(std::size_t i) {
-  if (i >= size()) throw std::out_of_range("invalid vector subscript");
+const T& JetList<T>::at(std::size_t i) const {
+  check_subscript(i, size());
   return values_[i];
 }
 
 template <number T>
-const T& JetList<T>::at(std::size_t i) const {
-  if (i >= size()) throw std::out_of_range("invalid vector subscript");
-  return values_[i];
+void check_same_length(const JetList<T>& x, const JetList<T>& y) {
+  check_same_size("vector", y.size(), x.size(), "element of the other vector");
 }
 
 template <number T>
@@ -58,6 +52,22 @@ std::vector<double> values_of(const JetList<T>& x) {
   values.reserve(x.size());
   for (const T& element : x) values.push_back(value_of(element));
   return values;
+}
+
+std::vector<double> partials_of(const JetList<jet>& x) {
+  std::vector<double> partials;
+  partials.reserve(x.size() * jet::DIMENSION);
+  for (const jet& element : x) {
+    partials.insert(partials.end(), element.v.data(), element.v.data() + jet::DIMENSION);
+  }
+  return partials;
+}
+
+template <number T>
+std::string text_of_values(const JetList<T>& x) {
+  std::string text = "[";
+  for (std::size_t i = 0; i < x.size(); ++i) text += text_of(i > 0 ? ", " : "", value_of(x[i]));
+  return text + "]";
 }
 
 template <number T>
@@ -146,25 +156,27 @@ T stddev(const JetList<T>& x) {
   return length_of_square(var(x));
 }
 
-#define GRAVELOX_INSTANTIATE(T)                                        \
-  template class JetList<T>;                                           \
-  template T length_of_square(const T&);                               \
-  template std::vector<double> values_of(const JetList<T>&);           \
-  template JetList<T> apply(T (*)(const T&), const JetList<T>&);       \
-  template JetList<T> operator+(const JetList<T>&, const JetList<T>&); \
-  template JetList<T> operator-(const JetList<T>&, const JetList<T>&); \
-  template JetList<T> operator*(const JetList<T>&, const JetList<T>&); \
-  template JetList<T> operator/(const JetList<T>&, const JetList<T>&); \
-  template JetList<T> operator*(const JetList<T>&, const T&);          \
-  template JetList<T> operator/(const JetList<T>&, const T&);          \
-  template JetList<T> operator/(const T&, const JetList<T>&);          \
-  template JetList<T> pow(const JetList<T>&, double);                  \
-  template T dot(const JetList<T>&, const JetList<T>&);                \
-  template T norm(const JetList<T>&);                                  \
-  template JetList<T> normalize(const JetList<T>&);                    \
-  template T sum(const JetList<T>&);                                   \
-  template T mean(const JetList<T>&);                                  \
-  template T var(const JetList<T>&);                                   \
+#define GRAVELOX_INSTANTIATE(T)                                          \
+  template class JetList<T>;                                             \
+  template T length_of_square(const T&);                                 \
+  template void check_same_length(const JetList<T>&, const JetList<T>&); \
+  template std::string text_of_values(const JetList<T>&);                \
+  template std::vector<double> values_of(const JetList<T>&);             \
+  template JetList<T> apply(T (*)(const T&), const JetList<T>&);         \
+  template JetList<T> operator+(const JetList<T>&, const JetList<T>&);   \
+  template JetList<T> operator-(const JetList<T>&, const JetList<T>&);   \
+  template JetList<T> operator*(const JetList<T>&, const JetList<T>&);   \
+  template JetList<T> operator/(const JetList<T>&, const JetList<T>&);   \
+  template JetList<T> operator*(const JetList<T>&, const T&);            \
+  template JetList<T> operator/(const JetList<T>&, const T&);            \
+  template JetList<T> operator/(const T&, const JetList<T>&);            \
+  template JetList<T> pow(const JetList<T>&, double);                    \
+  template T dot(const JetList<T>&, const JetList<T>&);                  \
+  template T norm(const JetList<T>&);                                    \
+  template JetList<T> normalize(const JetList<T>&);                      \
+  template T sum(const JetList<T>&);                                     \
+  template T mean(const JetList<T>&);                                    \
+  template T var(const JetList<T>&);                                     \
   template T stddev(const JetList<T>&)
 
 GRAVELOX_INSTANTIATE(double);

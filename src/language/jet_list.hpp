@@ -8,10 +8,12 @@
 
 #include <cstddef>
 #include <initializer_list>
+#include <string>
 #include <utility>
 #include <vector>
 
 #include "common/number.hpp"
+#include "language/subscript.hpp"
 
 namespace gravelox {
 
@@ -36,7 +38,6 @@ class JetList {
   const T& operator[](std::size_t i) const { return values_[i]; }
 
   /// An element; throws std::out_of_range "invalid vector subscript".
-  T& at(std::size_t i);
   const T& at(std::size_t i) const;
 
   auto begin() { return values_.begin(); }
@@ -65,9 +66,20 @@ inline double value_of(const jet& x) { return x.a; }
 template <number T>
 T length_of_square(const T& square);
 
+/// Throws std::invalid_argument for vectors of different lengths.
+template <number T>
+void check_same_length(const JetList<T>& x, const JetList<T>& y);
+
 /// The values without derivatives.
 template <number T>
 std::vector<double> values_of(const JetList<T>& x);
+
+/// All derivatives, those of each element together.
+std::vector<double> partials_of(const JetList<jet>& x);
+
+/// The values in brackets: "[1, 2.5]".
+template <number T>
+std::string text_of_values(const JetList<T>& x);
 
 /// The function at each element.
 template <number T>

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "language/jet_matrix.hpp"
 
-#include <concepts>
-#include <stdexcept>
 #include <utility>
 
 #include "common/checks.hpp"
@@ -40,22 +38,24 @@ JetMatrix<T>::JetMatrix(std::vector<JetList<T>> rows) : rows_(std::move(rows)) {
 }
 
 template <number T>
-const JetList<T>& JetMatrix<T>::row(std::size_t i) const {
-  if (i >= nrows()) throw std::out_of_range("invalid vector subscript");
-  return rows_[i];
-}
-
-template <number T>
-T& JetMatrix<T>::at(std::size_t i, std::size_t j) {
-  if (i >= nrows()) throw std::out_of_range("invalid vector subscript");
-  return rows_[i].at(j);
-}
-
-template <number T>
 void JetMatrix<T>::set_row(std::size_t i, const JetList<T>& values) {
-  if (i >= nrows()) throw std::out_of_range("invalid vector subscript");
+  check_subscript(i, nrows());
   check_same_size("value", values.size(), ncols(), "column");
   rows_[i] = values;
+}
+
+template <number T>
+std::vector<std::vector<double>> values_of(const JetMatrix<T>& m) {
+  std::vector<std::vector<double>> rows;
+  for (const JetList<T>& row : m.rows()) rows.push_back(values_of(row));
+  return rows;
+}
+
+template <number T>
+std::string text_of_values(const JetMatrix<T>& m) {
+  std::string text = "[";
+  for (std::size_t i = 0; i < m.nrows(); ++i) text += (i > 0 ? ", " : "") + text_of_values(m[i]);
+  return text + "]";
 }
 
 template <number T>
@@ -66,8 +66,8 @@ JetMatrix<T> apply(T (*function)(const T&), const JetMatrix<T>& m) {
 template <number T>
 JetMatrix<T> repeat(int n, const JetList<T>& x) {
   check_at_least("n", n, 0);
-  constexpr int doubles_per_element = std::same_as<T, jet> ? 1 + jet::DIMENSION : 1;
-  check_memory("n", 1.0 * doubles_per_element * n * static_cast<double>(x.size() + 1));
+  const std::size_t row = sizeof(JetList<T>) + x.size() * sizeof(T);
+  check_memory("n", static_cast<double>(row) / sizeof(double) * n);
   return JetMatrix<T>(std::vector<JetList<T>>(to_size(n), x));
 }
 
@@ -131,6 +131,8 @@ JetList<T> along_axis(T (*statistic)(const JetList<T>&), const JetMatrix<T>& m, 
 
 #define GRAVELOX_INSTANTIATE(T)                                              \
   template class JetMatrix<T>;                                               \
+  template std::vector<std::vector<double>> values_of(const JetMatrix<T>&);  \
+  template std::string text_of_values(const JetMatrix<T>&);                  \
   template JetMatrix<T> apply(T (*)(const T&), const JetMatrix<T>&);         \
   template JetMatrix<T> repeat(int, const JetList<T>&);                      \
   template JetMatrix<T> operator+(const JetMatrix<T>&, const JetMatrix<T>&); \

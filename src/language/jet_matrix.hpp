@@ -5,6 +5,7 @@
 // linear algebra stands in matrix_algebra.hpp.
 
 #include <cstddef>
+#include <string>
 #include <vector>
 
 #include "language/jet_list.hpp"
@@ -32,11 +33,8 @@ class JetMatrix {
   T& operator()(std::size_t i, std::size_t j) { return rows_[i][j]; }
   const T& operator()(std::size_t i, std::size_t j) const { return rows_[i][j]; }
 
-  /// A row, or an element; std::out_of_range "invalid vector subscript".
-  const JetList<T>& row(std::size_t i) const;
-  T& at(std::size_t i, std::size_t j);
-
-  /// Writes a row; std::invalid_argument for another length than the matrix has columns.
+  /// Writes a row. Throws std::out_of_range "invalid vector subscript", and std::invalid_argument
+  /// for another length than the matrix has columns.
   void set_row(std::size_t i, const JetList<T>& values);
 
   const std::vector<JetList<T>>& rows() const { return rows_; }
@@ -46,6 +44,14 @@ class JetMatrix {
  private:
   std::vector<JetList<T>> rows_;
 };
+
+/// The values without derivatives, by rows.
+template <number T>
+std::vector<std::vector<double>> values_of(const JetMatrix<T>& m);
+
+/// The values in brackets: "[[1, 2.5], [3, 4]]".
+template <number T>
+std::string text_of_values(const JetMatrix<T>& m);
 
 /// The function at each element.
 template <number T>

@@ -147,6 +147,28 @@ void set_partial(dense<jet>& m, int k, const MatrixXd& partial) {
   }
 }
 
+/// The matrix of cofactors, transposed, of a matrix of any rank.
+MatrixXd adjugate(const decomposition& d) {
+  VectorXd products = VectorXd::Ones(d.s.size());
+  for (Index i = 0; i < d.s.size(); ++i) {
+    for (Index j = 0; j < d.s.size(); ++j) {
+      if (j != i) products[i] *= d.s[j];
+    }
+  }
+  const double orientation = d.u.determinant() * d.v.determinant();
+  return orientation * d.v * products.asDiagonal() * d.u.transpose();
+}
+
+/// 0 with its derivatives by Jacobi's formula. Elimination divides by pivots, of which one is 0.
+jet singular_determinant(const dense<jet>& m) {
+  const MatrixXd cofactors = adjugate(decompose_values(values_of(m))).transpose();
+  jet result(0.0);
+  for (int k = 0; k < jet::DIMENSION; ++k) {
+    result.v[k] = cofactors.cwiseProduct(partial_of(m, k)).sum();
+  }
+  return result;
+}
+
 template <number T>
 JetMatrix<T> gram_schmidt(const JetMatrix<T>& m, bool normalized) {
   JetMatrix<T> result = m;
@@ -199,7 +221,14 @@ JetMatrix<T> inverse(const JetMatrix<T>& m) {
 template <number T>
 T determinant(const JetMatrix<T>& m) {
   check_square(m);
-  return m.nrows() == 0 ? T(1.0) : decompose(m).determinant();
+  if (m.nrows() == 0) return T(1.0);
+  const Eigen::PartialPivLU<dense<T>> lu = decompose(m);
+  if constexpr (std::same_as<T, jet>) {
+    if ((values_of(dense<T>(lu.matrixLU().diagonal())).array() == 0.0).any()) {
+      return singular_determinant(to_dense(m));
+    }
+  }
+  return lu.determinant();
 }
 
 template <number T>

@@ -5,7 +5,6 @@
 #include <stdexcept>
 #include <utility>
 
-#include "common/checks.hpp"
 #include "language/elementary.hpp"
 #include "language/program_detail.hpp"
 
@@ -21,11 +20,6 @@ using detail::instruction;
 template <number T, typename Operation>
 void of_scalars(const instruction<T>& step, cell<T>* const* cells) {
   cells[step.result]->scalar = Operation()(cells[step.left]->scalar, cells[step.right]->scalar);
-}
-
-template <number T>
-void check_same_length(const JetList<T>& lhs, const JetList<T>& rhs) {
-  check_same_size("rhs", rhs.size(), lhs.size(), "element of the left operand");
 }
 
 template <number T, typename Operation>

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
 #include <atomic>
 #include <stdexcept>
 
@@ -84,8 +85,8 @@ template <number T>
 void planner<T>::announce_variable(Variable<T>& variable, variable_kind form) {
   for (std::size_t i = scopes_.size(); i-- > 1;) {
     for (const binding& bound : scopes_[i].bindings) {
-      if (bound.argument == &variable && bound.kind == form) {
-        operands_.push_back(bound.cell);
+      if (bound.argument == &variable && bound.value.kind == form) {
+        operands_.push_back(bound.value.cell);
         return;
       }
     }
@@ -118,7 +119,18 @@ std::uint32_t planner<T>::emit(instruction<T> step) {
 
 template <number T>
 void planner<T>::enter_scope(std::vector<binding> bindings) {
+  for (std::size_t i = bindings.size(); i-- > 0;) {
+    text_.bindings[bindings[i].argument] = lasting(bindings[i].value);
+  }
   scopes_.push_back({new_scope_id(), std::move(bindings)});
+}
+
+/// A value that is there when the evaluation ends. A variable's own may be replaced by then.
+template <number T>
+bound_value planner<T>::lasting(const bound_value& value) {
+  const Expression<T>* owner = text_.owners[value.cell];
+  if (owner == nullptr || owner->type() != object_type::variable) return value;
+  return {value.kind, emit({.run = copy_of<T>(value.kind), .left = value.cell})};
 }
 
 template <number T>
@@ -143,16 +155,31 @@ template <number T>
 program<T>::program(Expression<T>& root, variable_kind form) {
   program_text<T> text = planner<T>().plan(root, form);
   steps_ = std::move(text.steps);
-  cells_.reserve(text.owners.size());
+  bindings_ = std::move(text.bindings);
+  cells_.reserve(text.owners.size() + bindings_.size());
   for (Expression<T>* owner : text.owners) {
     cells_.push_back(owner != nullptr ? &planner<T>::cell_of(*owner) : &own_cells_.emplace_back());
   }
+  for (const auto& [argument, value] : bindings_) {
+    const auto result = static_cast<std::uint32_t>(cells_.size());
+    steps_.push_back({.run = copy_of<T>(value.kind), .result = result, .left = value.cell});
+    cells_.push_back(&planner<T>::cell_of(*argument));
+  }
+}
+
+template <number T>
+bool program<T>::is_current() const {
+  return std::all_of(bindings_.begin(), bindings_.end(), [](const auto& binding) {
+    return binding.first->kind() == binding.second.kind;
+  });
 }
 
 template <number T>
 void program<T>::run() {
   for (const instruction<T>& step : steps_) step.run(step, cells_.data());
 }
+
+namespace {
 
 template <number T>
 void copy_scalar(const instruction<T>& step, cell<T>* const* cells) {
@@ -168,6 +195,13 @@ void copy_vector(const instruction<T>& step, cell<T>* const* cells) {
   result.kind = variable_kind::vector;
 }
 
+}  // namespace
+
+template <number T>
+typename instruction<T>::operation copy_of(variable_kind form) {
+  return form == variable_kind::scalar ? copy_scalar<T> : copy_vector<T>;
+}
+
 template <number T>
 void take_first(const instruction<T>& step, cell<T>* const* cells) {
   cells[step.result]->scalar = cells[step.left]->vector.at(0);
@@ -181,12 +215,11 @@ void replace_first(const instruction<T>& step, cell<T>* const* cells) {
   set_first(result.vector, cells[step.right]->scalar);
 }
 
-#define GRAVELOX_INSTANTIATE(T)                                      \
-  template class planner<T>;                                         \
-  template class program<T>;                                         \
-  template void copy_scalar(const instruction<T>&, cell<T>* const*); \
-  template void copy_vector(const instruction<T>&, cell<T>* const*); \
-  template void take_first(const instruction<T>&, cell<T>* const*);  \
+#define GRAVELOX_INSTANTIATE(T)                                          \
+  template class planner<T>;                                             \
+  template class program<T>;                                             \
+  template typename instruction<T>::operation copy_of<T>(variable_kind); \
+  template void take_first(const instruction<T>&, cell<T>* const*);      \
   template void replace_first(const instruction<T>&, cell<T>* const*)
 
 GRAVELOX_INSTANTIATE(double);

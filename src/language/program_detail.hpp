@@ -6,12 +6,14 @@
 // Private to the sources of the language.
 //
 // A composition is a substitution: in the body of its function the arguments stand for the listed
-// expressions, and their own values stay as they are. So a plan has scopes, and the results of one
-// node in two scopes are two cells.
+// expressions. So a plan has scopes, and the results of one node in two scopes are two cells.
+// Outside of such bodies variables have the values of the start of the evaluation, in whatever
+// order operands are worked out: what arguments are bound to is stored in them when it ends.
 
 #include <cstddef>
 #include <cstdint>
 #include <deque>
+#include <map>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -40,13 +42,20 @@ void set_first(JetList<T>& vector, const T& x) {
   vector[0] = x;
 }
 
-/// What planning leaves: the steps, the nodes that own cells (null for a cell of a plan's own), and
-/// the cell of the result.
+/// The value of an argument: its kind, which is the argument's own, and its cell.
+struct bound_value {
+  variable_kind kind;
+  std::uint32_t cell;
+};
+
+/// What planning leaves: the steps, the nodes that own cells (null for a cell of a plan's own), the
+/// cell of the result, and what compositions bind their arguments to at last.
 template <number T>
 struct program_text {
   std::vector<instruction<T>> steps;
   std::vector<Expression<T>*> owners;
   std::uint32_t result = 0;
+  std::map<Variable<T>*, bound_value> bindings;
 };
 
 /// Plans one evaluation. Nodes take part through open and close; the tree is walked with a stack of
@@ -56,11 +65,10 @@ class planner {
  public:
   using cell_number = std::uint32_t;
 
-  /// An argument in the body of a function: the kind and the cell of what it stands for.
+  /// An argument in the body of a function, and what it stands for there.
   struct binding {
-    const Variable<T>* argument;
-    variable_kind kind;
-    cell_number cell;
+    Variable<T>* argument;
+    bound_value value;
   };
 
   /// The plan of a tree in a form. Throws as evaluations do.
@@ -93,6 +101,7 @@ class planner {
   /// The cell of a leaf's own value.
   cell_number leaf_cell(Expression<T>& leaf, variable_kind form);
 
+  /// The body of a function. Of an argument that is bound twice the first binding counts.
   void enter_scope(std::vector<binding> bindings);
   void leave_scope() { scopes_.pop_back(); }
 
@@ -108,6 +117,7 @@ class planner {
   };
 
   cell_number new_cell(Expression<T>* owner);
+  bound_value lasting(const bound_value& value);
   void open(Expression<T>& node, variable_kind form);
 
   std::vector<task> tasks_;
@@ -121,20 +131,25 @@ template <number T>
 class program {
  public:
   program(Expression<T>& root, variable_kind form);
+
+  /// Whether the arguments of compositions have the kinds that they were planned with.
+  bool is_current() const;
+
   void run();
 
  private:
   std::vector<instruction<T>> steps_;
   std::deque<cell<T>> own_cells_;
   std::vector<cell<T>*> cells_;
+  std::map<Variable<T>*, bound_value> bindings_;
 };
 
-/// Steps for compositions: the value of a cell, its element 0, and the vector of the left cell with
-/// the number of the right one in its place 0.
+/// The step that copies the value of a cell.
 template <number T>
-void copy_scalar(const instruction<T>& step, cell<T>* const* cells);
-template <number T>
-void copy_vector(const instruction<T>& step, cell<T>* const* cells);
+typename instruction<T>::operation copy_of(variable_kind form);
+
+/// Steps for compositions: element 0 of a cell, and the vector of the left cell with the number of
+/// the right one in its place 0.
 template <number T>
 void take_first(const instruction<T>& step, cell<T>* const* cells);
 template <number T>

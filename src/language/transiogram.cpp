@@ -1,20 +1,23 @@
 // SPDX-License-Identifier: MIT
 #include "language/transiogram.hpp"
 
+#include <memory>
 #include <stdexcept>
 #include <utility>
+
+#include "language/function.hpp"
+#include "language/subscript.hpp"
 
 namespace gravelox {
 
 namespace {
 
-/// An element of a list; classes come from callers.
+/// An element of a list; classes come from callers, and those below 0 are none.
 template <typename List>
 const auto& element(const List& list, int index) {
-  if (index < 0 || static_cast<std::size_t>(index) >= list.size()) {
-    throw std::out_of_range("invalid vector subscript");
-  }
-  return list[static_cast<std::size_t>(index)];
+  const auto i = static_cast<std::size_t>(index);
+  check_subscript(i, list.size());
+  return list[i];
 }
 
 template <typename Pointer>
@@ -22,16 +25,20 @@ void check_pointer(const Pointer& pointer) {
   if (!pointer) throw std::runtime_error("Invalid argument!!!");
 }
 
-/// An expression of the two locations.
+/// An expression of the two locations, planned once: as a function without arguments of its own.
 template <number T>
 typename AbstractTransiogram<T>::kernel create_kernel(const ast::VariablePtr<T>& class_u,
                                                       const ast::VariablePtr<T>& class_v,
                                                       const ast::ExpressionPtr<T>& expression) {
-  check_pointer(expression);
-  return [class_u, class_v, expression](const JetList<T>& u, const JetList<T>& v) {
+  using arguments = std::vector<ast::VariablePtr<T>>;
+  const ast::ScalarFunction<T> entry(std::make_shared<ast::Function<T>>(arguments{}, expression));
+  if (expression->kind() != ast::variable_kind::scalar) {
+    throw std::runtime_error("Invalid variable types");
+  }
+  return [class_u, class_v, entry](const JetList<T>& u, const JetList<T>& v) {
     class_u->eval_vector(u);
     class_v->eval_vector(v);
-    return expression->eval();
+    return entry({});
   };
 }
 

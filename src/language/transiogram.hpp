@@ -28,7 +28,8 @@ class AbstractTransiogram {
 
   /// Of expressions of two variables, which take the locations as vectors. A call stores them
   /// there, so that tables with a node in common belong to one thread at a time. Throws
-  /// std::runtime_error "Invalid argument!!!" without a variable or an expression.
+  /// std::runtime_error "Invalid argument!!!" without a variable or an expression, and "Invalid
+  /// variable types" for the expression of a vector.
   AbstractTransiogram(const ast::VariablePtr<T>& class_u, const ast::VariablePtr<T>& class_v,
                       const std::vector<std::vector<ast::ExpressionPtr<T>>>& kernels);
 

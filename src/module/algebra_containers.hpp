@@ -5,13 +5,11 @@
 
 #include "module/casters.hpp"
 
-#include <string>
 #include <utility>
 #include <vector>
 
-#include "common/checks.hpp"
-#include "common/integer.hpp"
-#include "common/text.hpp"
+#include "language/selection.hpp"
+#include "language/subscript.hpp"
 #include "module/language_types.hpp"
 
 namespace gravelox {
@@ -26,7 +24,7 @@ template <number T>
 void bind_matrix(py::class_<JetMatrix<T>>& matrix);
 
 /// The positions that a slice of Python's selects.
-inline std::vector<std::size_t> positions_of(const py::slice& slice, std::size_t size) {
+inline positions positions_of(const py::slice& slice, std::size_t size) {
   py::ssize_t start = 0;
   py::ssize_t stop = 0;
   py::ssize_t step = 0;
@@ -34,11 +32,11 @@ inline std::vector<std::size_t> positions_of(const py::slice& slice, std::size_t
   if (!slice.compute(static_cast<py::ssize_t>(size), &start, &stop, &step, &n)) {
     throw py::error_already_set();
   }
-  std::vector<std::size_t> positions;
+  positions selected;
   for (py::ssize_t i = 0; i < n; ++i) {
-    positions.push_back(static_cast<std::size_t>(start + i * step));
+    selected.push_back(static_cast<std::size_t>(start + i * step));
   }
-  return positions;
+  return selected;
 }
 
 inline py::slice limits(int start, int stop) { return {start, stop, 1}; }
@@ -49,28 +47,24 @@ T get_element(const JetList<T>& x, int index) {
 }
 
 template <number T>
-void set_element(JetList<T>& x, int index, const T& value) {
+void set_element(JetList<T>& x, int index, const scalar_argument<T>& value) {
   x[position_of(index, x.size())] = value;
 }
 
 template <number T>
 JetList<T> get_slice(const JetList<T>& x, const py::slice& index) {
-  JetList<T> result;
-  for (const std::size_t i : positions_of(index, x.size())) result.push_back(x[i]);
-  return result;
+  return select(x, positions_of(index, x.size()));
 }
 
 template <number T>
-void fill_slice(JetList<T>& x, const py::slice& index, const T& value) {
-  for (const std::size_t i : positions_of(index, x.size())) x[i] = value;
+void fill_slice(JetList<T>& x, const py::slice& index, const scalar_argument<T>& value) {
+  fill(x, positions_of(index, x.size()), value.value);
 }
 
 /// The values come as a copy: they may be of the same vector.
 template <number T>
 void set_slice(JetList<T>& x, const py::slice& index, JetList<T> value) {
-  const std::vector<std::size_t> positions = positions_of(index, x.size());
-  check_same_size("value", value.size(), positions.size(), "element of the slice");
-  for (std::size_t i = 0; i < positions.size(); ++i) x[positions[i]] = std::move(value[i]);
+  replace(x, positions_of(index, x.size()), value);
 }
 
 template <number T>
@@ -100,15 +94,13 @@ T get_cell(const JetMatrix<T>& m, const std::pair<int, int>& id) {
 }
 
 template <number T>
-void set_cell(JetMatrix<T>& m, const std::pair<int, int>& id, const T& value) {
+void set_cell(JetMatrix<T>& m, const std::pair<int, int>& id, const scalar_argument<T>& value) {
   m(position_of(id.first, m.nrows()), position_of(id.second, m.ncols())) = value;
 }
 
 template <number T>
 JetMatrix<T> get_rows(const JetMatrix<T>& m, const py::slice& id) {
-  std::vector<JetList<T>> rows;
-  for (const std::size_t i : positions_of(id, m.nrows())) rows.push_back(m[i]);
-  return JetMatrix<T>(std::move(rows));
+  return select_rows(m, positions_of(id, m.nrows()));
 }
 
 template <number T>
@@ -119,32 +111,8 @@ JetMatrix<T> rows_between(const JetMatrix<T>& m, int start, int stop) {
 template <number T>
 JetMatrix<T> part_between(const JetMatrix<T>& m, int row_start, int row_stop, int column_start,
                           int column_stop) {
-  std::vector<JetList<T>> rows;
-  for (const std::size_t i : positions_of(limits(row_start, row_stop), m.nrows())) {
-    rows.push_back(slice_between(m[i], column_start, column_stop));
-  }
-  return JetMatrix<T>(std::move(rows));
-}
-
-template <number T>
-std::string text_of_vector(const JetList<T>& x) {
-  std::string text = "[";
-  for (std::size_t i = 0; i < x.size(); ++i) text += text_of(i > 0 ? ", " : "", value_of(x[i]));
-  return text + "]";
-}
-
-template <number T>
-std::string text_of_matrix(const JetMatrix<T>& m) {
-  std::string text = "[";
-  for (std::size_t i = 0; i < m.nrows(); ++i) text += (i > 0 ? ", " : "") + text_of_vector(m[i]);
-  return text + "]";
-}
-
-template <number T>
-std::vector<std::vector<double>> values_of_matrix(const JetMatrix<T>& m) {
-  std::vector<std::vector<double>> rows;
-  for (const JetList<T>& row : m.rows()) rows.push_back(values_of(row));
-  return rows;
+  return select(m, positions_of(limits(row_start, row_stop), m.nrows()),
+                positions_of(limits(column_start, column_stop), m.ncols()));
 }
 
 template <number T>
@@ -177,15 +145,10 @@ py::array matrix_array(const JetMatrix<T>& m, const py::object& dtype, const py:
 /// The derivatives of jets one after another, in an array of this shape and a last axis of seven.
 inline py::array partials_array(const JetList<jet>& x, std::vector<py::ssize_t> shape) {
   shape.push_back(jet::DIMENSION);
-  py::array_t<double> result(std::move(shape));
-  double* next = result.mutable_data();
-  for (const jet& element : x) {
-    for (int k = 0; k < jet::DIMENSION; ++k) *next++ = element.v[k];
-  }
-  return result;
+  return py::array_t<double>(std::move(shape), partials_of(x).data());
 }
 
-inline py::array partials_of(const jet& x) { return partials_array(JetList<jet>{x}, {}); }
+inline py::array partials_of_scalar(const jet& x) { return partials_array(JetList<jet>{x}, {}); }
 
 inline py::array partials_of_vector(const JetList<jet>& x) {
   return partials_array(x, {static_cast<py::ssize_t>(x.size())});

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "common/checks.hpp"
+#include "common/text.hpp"
 #include "language/elementary.hpp"
 #include "module/algebra_containers.hpp"
 #include "module/algebra_docs.hpp"
@@ -32,6 +33,7 @@ jet jet_of(double value, const std::vector<double>& partials) {
 template <number T>
 void bind_scalar(py::module_& m, const std::string& name) {
   using P = bound_number<T>;
+  using S = scalar_argument<T>;
   py::class_<P> scalar(m, name.c_str(), docs::scalar_class);
   scalar.def(py::init<double>(), arg("value"), docs::scalar_init);
   if constexpr (std::same_as<T, jet>) {
@@ -43,35 +45,35 @@ void bind_scalar(py::module_& m, const std::string& name) {
   const char* doc = docs::scalar_arithmetic;
   scalar
       .def(
-          "__add__", [](const P& a, const T& x) { return T(number_of(a) + x); }, is_operator(),
-          arg("x"), doc)
+          "__add__", [](const P& a, const S& x) { return T(number_of(a) + x.value); },
+          is_operator(), arg("x"), doc)
       .def(
-          "__radd__", [](const P& a, const T& x) { return T(x + number_of(a)); }, is_operator(),
-          arg("x"), doc)
+          "__radd__", [](const P& a, const S& x) { return T(x.value + number_of(a)); },
+          is_operator(), arg("x"), doc)
       .def(
-          "__mul__", [](const P& a, const T& x) { return T(number_of(a) * x); }, is_operator(),
-          arg("x"), doc)
+          "__mul__", [](const P& a, const S& x) { return T(number_of(a) * x.value); },
+          is_operator(), arg("x"), doc)
       .def(
-          "__rmul__", [](const P& a, const T& x) { return T(x * number_of(a)); }, is_operator(),
-          arg("x"), doc)
+          "__rmul__", [](const P& a, const S& x) { return T(x.value * number_of(a)); },
+          is_operator(), arg("x"), doc)
       .def(
-          "__sub__", [](const P& a, const T& x) { return T(number_of(a) - x); }, is_operator(),
-          arg("x"), doc)
+          "__sub__", [](const P& a, const S& x) { return T(number_of(a) - x.value); },
+          is_operator(), arg("x"), doc)
       .def(
-          "__rsub__", [](const P& a, const T& x) { return T(x - number_of(a)); }, is_operator(),
-          arg("x"), doc)
+          "__rsub__", [](const P& a, const S& x) { return T(x.value - number_of(a)); },
+          is_operator(), arg("x"), doc)
       .def(
-          "__truediv__", [](const P& a, const T& x) { return T(number_of(a) / x); }, is_operator(),
-          arg("x"), doc)
+          "__truediv__", [](const P& a, const S& x) { return T(number_of(a) / x.value); },
+          is_operator(), arg("x"), doc)
       .def(
-          "__rtruediv__", [](const P& a, const T& x) { return T(x / number_of(a)); }, is_operator(),
-          arg("x"), doc)
+          "__rtruediv__", [](const P& a, const S& x) { return T(x.value / number_of(a)); },
+          is_operator(), arg("x"), doc)
       .def(
           "__str__", [](const P& a) { return text_of(value_of(number_of(a))); }, docs::text)
       .def_property_readonly(
           "value", [](const P& a) { return value_of(number_of(a)); }, docs::scalar_value);
   if constexpr (std::same_as<T, jet>) {
-    scalar.def_property_readonly("partials", &partials_of, docs::partials);
+    scalar.def_property_readonly("partials", &partials_of_scalar, docs::partials);
   } else {
     scalar.def(
         "__float__", [](const P& a) { return a.value; }, docs::scalar_float);
@@ -82,6 +84,7 @@ void bind_scalar(py::module_& m, const std::string& name) {
 template <number T>
 void bind_vector_operators(vector_class<T>& vector) {
   using V = JetList<T>;
+  using S = scalar_argument<T>;
   const char* by_vector = docs::vector_by_vector;
   const char* by_scalar = docs::vector_by_scalar;
   vector
@@ -101,23 +104,23 @@ void bind_vector_operators(vector_class<T>& vector) {
           "__mul__", [](const V& a, const V& x) { return a * x; }, is_operator(), arg("x"),
           by_vector)
       .def(
-          "__mul__", [](const V& a, const T& x) { return a * x; }, is_operator(), arg("x"),
+          "__mul__", [](const V& a, const S& x) { return a * x.value; }, is_operator(), arg("x"),
           by_scalar)
       .def(
           "__rmul__", [](const V& a, const V& x) { return x * a; }, is_operator(), arg("x"),
           by_vector)
       .def(
-          "__rmul__", [](const V& a, const T& x) { return a * x; }, is_operator(), arg("x"),
+          "__rmul__", [](const V& a, const S& x) { return a * x.value; }, is_operator(), arg("x"),
           by_scalar)
       .def(
-          "__truediv__", [](const V& a, const T& x) { return a / x; }, is_operator(), arg("x"),
-          by_scalar)
+          "__truediv__", [](const V& a, const S& x) { return a / x.value; }, is_operator(),
+          arg("x"), by_scalar)
       .def(
           "__truediv__", [](const V& a, const V& x) { return a / x; }, is_operator(), arg("x"),
           by_vector)
       .def(
-          "__rtruediv__", [](const V& a, const T& x) { return x / a; }, is_operator(), arg("x"),
-          by_scalar)
+          "__rtruediv__", [](const V& a, const S& x) { return x.value / a; }, is_operator(),
+          arg("x"), by_scalar)
       .def(
           "__rtruediv__", [](const V& a, const V& x) { return x / a; }, is_operator(), arg("x"),
           by_vector);
@@ -144,12 +147,12 @@ void bind_vector(vector_class<T>& vector) {
       .def("__setitem__", &set_slice<T>, arg("index"), arg("value"), docs::vector_set_slice_vector)
       .def("__getitem__", &get_slice<T>, arg("index"), docs::vector_get_slice)
       .def("slice", &slice_between<T>, arg("start"), arg("stop"), docs::vector_slice)
-      .def("__str__", &text_of_vector<T>, docs::text)
-      .def("tolist", &values_of<T>, docs::tolist)
+      .def("__str__", py::overload_cast<const V&>(&text_of_values<T>), docs::text)
+      .def("tolist", py::overload_cast<const V&>(&values_of<T>), docs::tolist)
       .def("__array__", &vector_array<T>, arg("dtype") = py::none(), arg("copy") = py::none(),
            docs::array)
       .def(
-          "__list__", [](const V& x) { return array_of_values(x); }, docs::array)
+          "__list__", [](const V& x) { return array_of_values(x); }, docs::list_array)
       .def(
           "__iter__", [](const V& x) { return py::iter(py::cast(x.values())); }, docs::iter);
   if constexpr (std::same_as<T, jet>) {
@@ -163,7 +166,8 @@ void bind_elementary_functions(py::module_& m) {
   for (const elementary_function<T>& function : elementary_functions<T>()) {
     const auto f = function.apply;
     m.def(
-        function.name, [f](const T& x) { return f(x); }, arg("x"), docs::elementary_scalar);
+        function.name, [f](const scalar_argument<T>& x) { return f(x.value); }, arg("x"),
+        docs::elementary_scalar);
     m.def(
         function.name, [f](const JetList<T>& x) { return apply(f, x); }, arg("x"),
         docs::elementary_vector);

@@ -70,15 +70,16 @@ void bind_evaluation(node_class<ast::Expression<T>>& expression) {
       .def_property_readonly(
           "object_type_name", [](const E& e) { return name_of(e.type()); },
           docs::expression_type_name)
-      .def_property_readonly("vec", &E::vec, docs::expression_vec)
+      .def_property_readonly(
+          "vec", [](const E& e) { return e.vec(); }, docs::expression_vec)
       .def_property_readonly(
           "scalar", [](const E& e) { return e.scalar(); }, docs::expression_scalar)
       .def("print", &E::print, docs::expression_print)
       .def(
           "eval", [](E& e) { return T(e.eval()); }, docs::expression_eval)
       .def(
-          "eval", [](E& e, const T& scalar) { return T(e.eval(scalar)); }, arg("scalar"),
-          docs::expression_eval_scalar)
+          "eval", [](E& e, const scalar_argument<T>& scalar) { return T(e.eval(scalar.value)); },
+          arg("scalar"), docs::expression_eval_scalar)
       .def(
           "eval_vector", [](E& e) { return V(e.eval_vector()); }, docs::expression_eval_vector)
       .def(
@@ -93,8 +94,9 @@ ast::TransformationPtr<T> with_node(const ast::ExpressionPtr<T>& self,
 }
 
 template <number T, ast::arithmetic operation, bool is_reflected>
-ast::TransformationPtr<T> with_scalar(const ast::ExpressionPtr<T>& self, const T& x) {
-  return with_node<T, operation, is_reflected>(self, std::make_shared<ast::Value<T>>(x));
+ast::TransformationPtr<T> with_scalar(const ast::ExpressionPtr<T>& self,
+                                      const scalar_argument<T>& x) {
+  return with_node<T, operation, is_reflected>(self, std::make_shared<ast::Value<T>>(x.value));
 }
 
 template <number T, ast::arithmetic operation, bool is_reflected>
@@ -133,7 +135,7 @@ template <number T>
 void bind_leaves(ast_classes<T>& classes) {
   using Variable = ast::Variable<T>;
   classes.variable
-      .def(py::init<std::string, const T&>(), arg("name"), arg("scalar"),
+      .def(py::init<std::string, scalar_argument<T>>(), arg("name"), arg("scalar"),
            docs::variable_init_scalar)
       .def(py::init<std::string, JetList<T>>(), arg("name"), arg("vector"),
            docs::variable_init_vector)
@@ -143,7 +145,7 @@ void bind_leaves(ast_classes<T>& classes) {
       .def_property_readonly(
           "type_name", [](const Variable& x) { return name_of(x.type()); },
           docs::variable_type_name);
-  classes.value.def(py::init<const T&>(), arg("scalar"), docs::value_init_scalar)
+  classes.value.def(py::init<scalar_argument<T>>(), arg("scalar"), docs::value_init_scalar)
       .def(py::init<JetList<T>>(), arg("vector"), docs::value_init_vector);
 }
 
@@ -201,7 +203,7 @@ void bind_compiled(ast_classes<T>& classes) {
                      }),
                      arg("function"), docs::kernel_init);
   classes.scalar_cost.def(py::init<const F&>(), arg("cost"), docs::scalar_cost_init)
-      .def("__call__", &ast::AbstractScalarCost<T>::operator(), arg("x"), docs::scalar_cost_call);
+      .def("__call__", &ast::ScalarFunction<T>::operator(), arg("x"), docs::scalar_cost_call);
 }
 
 template <number T>

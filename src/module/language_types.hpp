@@ -37,18 +37,50 @@ T to_number(const py::object& result) {
     return to_float(result);
   } else {
     py::detail::make_caster<T> caster;
-    if (caster.load(result, true)) return py::detail::cast_op<T&>(caster);
+    // None would pass for a jet that is not there.
+    if (!result.is_none() && caster.load(result, true)) return py::detail::cast_op<T&>(caster);
     return T(to_float(result));
   }
 }
 
-/// The position of a script's index, which counts from the end if it is negative. Throws
-/// std::out_of_range "invalid vector subscript".
-inline std::size_t position_of(int index, std::size_t size) {
-  const auto n = static_cast<long long>(size);
-  const long long position = index < 0 ? index + n : index;
-  if (position < 0 || position >= n) throw std::out_of_range("invalid vector subscript");
-  return static_cast<std::size_t>(position);
-}
+/// A number where a function takes a vector too. An array or a list of one number is no scalar,
+/// though arrays of one element turn into floats.
+template <number T>
+struct scalar_argument {
+  T value = T(0.0);
+  operator const T&() const { return value; }
+};
 
 }  // namespace gravelox
+
+namespace pybind11::detail {
+
+template <gravelox::number T>
+class type_caster<gravelox::scalar_argument<T>> {
+ public:
+  PYBIND11_TYPE_CASTER(gravelox::scalar_argument<T>, make_caster<T>::name);
+
+  bool load(handle source, bool convert) {
+    if (!source || source.is_none() || has_length(source)) return false;
+    make_caster<T> number;
+    if (number.load(source, convert)) {
+      value.value = cast_op<T&>(number);
+      return true;
+    }
+    // Numbers of numpy, arrays without dimensions among them.
+    make_caster<double> plain;
+    if (!convert || !plain.load(source, convert)) return false;
+    value.value = T(cast_op<double>(plain));
+    return true;
+  }
+
+ private:
+  static bool has_length(handle source) {
+    if (PySequence_Check(source.ptr()) == 0) return false;
+    if (PySequence_Size(source.ptr()) >= 0) return true;
+    PyErr_Clear();
+    return false;
+  }
+};
+
+}  // namespace pybind11::detail

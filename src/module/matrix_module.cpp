@@ -34,6 +34,7 @@ template <number T>
 void bind_matrix_operators(matrix_class<T>& matrix) {
   using V = JetList<T>;
   using M = JetMatrix<T>;
+  using S = scalar_argument<T>;
   const char* by_matrix = docs::matrix_by_matrix;
   const char* by_scalar = docs::matrix_by_scalar;
   const char* product = docs::matrix_product;
@@ -55,7 +56,7 @@ void bind_matrix_operators(matrix_class<T>& matrix) {
       .def(
           "__mul__", [](const M& a, const V& x) { return a * x; }, is_operator(), arg("x"), product)
       .def(
-          "__mul__", [](const M& a, const T& x) { return a * x; }, is_operator(), arg("x"),
+          "__mul__", [](const M& a, const S& x) { return a * x.value; }, is_operator(), arg("x"),
           by_scalar)
       .def(
           "__rmul__", [](const M& a, const M& x) { return x * a; }, is_operator(), arg("x"),
@@ -64,11 +65,11 @@ void bind_matrix_operators(matrix_class<T>& matrix) {
           "__rmul__", [](const M& a, const V& x) { return x * a; }, is_operator(), arg("x"),
           product)
       .def(
-          "__rmul__", [](const M& a, const T& x) { return a * x; }, is_operator(), arg("x"),
+          "__rmul__", [](const M& a, const S& x) { return a * x.value; }, is_operator(), arg("x"),
           by_scalar)
       .def(
-          "__truediv__", [](const M& a, const T& x) { return a / x; }, is_operator(), arg("x"),
-          by_scalar);
+          "__truediv__", [](const M& a, const S& x) { return a / x.value; }, is_operator(),
+          arg("x"), by_scalar);
 }
 
 template <number T>
@@ -114,12 +115,12 @@ void bind_matrix(py::class_<JetMatrix<T>>& matrix) {
       .def("slice", &rows_between<T>, arg("start"), arg("stop"), docs::matrix_slice)
       .def("slice", &part_between<T>, arg("row_start"), arg("row_stop"), arg("column_start"),
            arg("column_stop"), docs::matrix_slice_both)
-      .def("__str__", &text_of_matrix<T>, docs::text)
-      .def("tolist", &values_of_matrix<T>, docs::tolist)
+      .def("__str__", py::overload_cast<const M&>(&text_of_values<T>), docs::text)
+      .def("tolist", py::overload_cast<const M&>(&values_of<T>), docs::tolist)
       .def("__array__", &matrix_array<T>, arg("dtype") = py::none(), arg("copy") = py::none(),
            docs::array)
       .def(
-          "__list__", [](const M& m) { return array_of_values(m); }, docs::array)
+          "__list__", [](const M& m) { return array_of_values(m); }, docs::list_array)
       .def(
           "__iter__", [](const M& m) { return py::iter(py::cast(m.rows())); }, docs::iter);
   if constexpr (std::same_as<T, jet>) {

@@ -77,7 +77,8 @@ kernels : list of list of Expression
 Raises
 ------
 RuntimeError
-    "Invalid argument!!!" where a variable or an expression is None.
+    "Invalid argument!!!" where a variable or an expression is None, and "Invalid variable types"
+    for an expression that gives vectors.
 )";
 
 constexpr const char* transiogram_entry = R"(
@@ -230,8 +231,8 @@ coordinates: distances between the two only mean something under an ellipsoid of
 anisotropy into the transiogram, or stretch all coordinates before.
 
 A target on a sample nearly always takes its class, as the weight is 1e6 there. One cell away it
-is one neighbour among many. Weights fall with the square of the distance whatever the transiogram
-says, so realisations are more ragged than their transiogram.
+is one neighbour among many. Rows are averaged, not multiplied, so realisations are more ragged than
+their transiogram, and more so with more neighbours.
 
 Parameters
 ----------

@@ -34,7 +34,8 @@ def members(space=gravelox, path=""):
             yield path + name, value.__doc__
             for member, made in vars(value).items() if isinstance(value, type) else ():
                 doc = getattr(made, "__func__", made).__doc__ or ""
-                if SIGNATURE.search(doc) and not isinstance(made, str) and "state__" not in member:
+                is_constant = isinstance(made, (int, str)) or "state__" in member
+                if SIGNATURE.search(doc) and not is_constant:
                     yield f"{path}{name}.{member}", doc
 
 

@@ -1,5 +1,6 @@
 """The module as a whole: order of names, threads of transforms, the interpreter lock, forks."""
 
+import operator
 import subprocess
 import sys
 import textwrap
@@ -7,6 +8,7 @@ import threading
 
 import gravelox
 import numpy as np
+import pytest
 
 
 def run(script):
@@ -44,9 +46,10 @@ NAMES = """
     create_random_dense_set compute_geodesics compute_geodesic_based_distance_matrix dense_MDS
     sparse_MDS mds_using_random_search
     fft create_random_rotation create_random_orthogonal_matrix PPMT compute_svd_decomposition
-    compute_optimum_rotation GMMParams GMMFitter SCT grid_detector fft.SpectralData1D
-    fft.project_to_line fft.project_back_to_source grid_detector.detect_grid_aligned_points
-    grid_detector.find_clusters grid_detector.cluster_fusion
+    compute_optimum_rotation jet algebra ast ceres transiogram markov_chain GMMParams GMMFitter SCT
+    grid_detector fft.SpectralData1D fft.project_to_line fft.project_back_to_source
+    grid_detector.detect_grid_aligned_points grid_detector.find_clusters
+    grid_detector.cluster_fusion
 """
 
 
@@ -54,6 +57,26 @@ def test_names_stand_in_the_order_of_registration():
     spaces = ("", gravelox), ("fft.", gravelox.fft), ("grid_detector.", gravelox.grid_detector)
     names = [path + name for path, space in spaces for name in vars(space) if name[:2] != "__"]
     assert names == NAMES.split()
+
+
+ELEMENTARY = """ sin cos tan asin acos atan sinh cosh tanh exp sqrt abs log ln log10 log2 pow2 pow3
+    sigmoid spherical gaussian exponential """
+EXPRESSIONS = f"""Expression Variable Value Transformation Kernel Function
+    ScalarFunction TransFunction KernelFunction ScalarCost ExpressionPtr VariablePtr ValuePtr
+    TransformationPtr KernelPtr FunctionPtr {ELEMENTARY} pow"""
+SAMPLERS = """UnconditionalSamplerPtr ConditionalSamplerPtr UnconditionalSampler ConditionalSampler
+    Default simulation """
+ALGEBRA = f"Real RealVector RealMatrix {ELEMENTARY} matrix vector value pow map"
+LANGUAGE = {"jet": "ast", "jet.ast": EXPRESSIONS, "ast": EXPRESSIONS, "ceres": "solve vec"}
+LANGUAGE |= {"algebra": ALGEBRA + " Jet JetVector JetMatrix", "ceres.vec": "solve"}
+for name, names in (("transiogram", "Transiogram TransiogramPtr "), ("markov_chain", SAMPLERS)):
+    LANGUAGE |= {name: names + "jet", f"{name}.jet": names}
+
+
+@pytest.mark.parametrize("path", LANGUAGE)
+def test_names_of_the_language(path):
+    names = vars(operator.attrgetter(path)(gravelox))
+    assert [name for name in names if name[:2] != "__"] == LANGUAGE[path].split()
 
 
 def test_fft_threads_are_set():

@@ -116,6 +116,15 @@ PARALLEL["grid_detector.cluster_fusion"] = partial(fuse, SAMPLES, range(300), 1.
 PARALLEL["grid_detector.detect_grid_aligned_points"] = lambda n_threads: (
     5.0 ** np.arange(20) @ [align(*LIKE, t / 2, 0, 12, n_threads) for t in range(1, 21)]
 )
+ceres, jets = gravelox.ceres, gravelox.jet.ast
+ABC, W = [jets.Variable(name, 0.5) for name in "abc"], jets.Variable("w", [0.5] * 3)
+NUMBERS = np.random.default_rng(98).normal(size=(1500, 3)).tolist()
+WAVES = [jets.exp(x * jets.sin(ABC[0])) - ABC[1] * y + ABC[2] * z for x, y, z in NUMBERS]
+COSTS = [jets.Function.Scalar(ABC, wave) for wave in WAVES]
+BLOCKS_OF = [jets.Function.Scalar([*ABC, W], W * u - wave) for u, wave in zip(NUMBERS, WAVES)]
+PARALLEL["ceres.solve"] = lambda **n: [*ceres.solve(COSTS, ABC, {}, **n)[0].values()]
+fit_blocks = partial(ceres.vec.solve, BLOCKS_OF, [*ABC, W], {}, cauchy_loss=0.5)
+PARALLEL["ceres.vec.solve"] = lambda **n: np.concatenate([*fit_blocks(**n)[0].values()])
 
 
 def numbers(result):
@@ -319,6 +328,20 @@ REFUSED += [
     ("u: .*3 .*4", CHAIN.backward, (WIDE[0],)),
     ("A: .*rows.*columns.*2 x 4", gravelox.compute_optimum_rotation, (WIDE,)),
 ]
+Table, run = gravelox.transiogram.Transiogram, gravelox.markov_chain.simulation
+TABLE, NONE, UNBOUND = Table([[math.hypot] * 2] * 2), Table([]), {"w": ([0] * 3, [1, 2])}
+REFUSED += [
+    ("vector: .*3 .*2", (W * [1, 2]).eval, ()),
+    ("cauchy_loss: .*inf", ceres.solve, (COSTS, ABC, {}, 9, math.inf)),
+    ("costs: .*at most 2 .*3", ceres.solve, (COSTS, ABC[1:], {})),
+    ("boundary of b: .*nan", ceres.solve, (COSTS, ABC, {"b": (0, math.nan)})),
+    ("boundary of w: .*at least 3 values, got 3 and 2", ceres.vec.solve, ([], [W], UNBOUND)),
+    ("transiogram: .*at least 1 row", run, ([NULL], [], [], NONE, METRIC)),
+    ("transiogram: .*square", run, ([NULL], [], [], Table([[abs] * 2]), METRIC)),
+    ("data_values: .*1 .*0", run, ([NULL], [NULL], [], TABLE, METRIC)),
+    ("data_values: .*below 2, got 2", run, ([NULL], [NULL], [2], TABLE, METRIC)),
+    ("target_locs: .*position 1", run, ([NULL, NAN], [], [], TABLE, METRIC)),
+]
 REFUSED += [("N: ", gravelox.create_random_rotation, (n, 1)) for n in (0, -1, 2**31 - 1)]
 dense, sparse, search = gravelox.dense_MDS, gravelox.sparse_MDS, gravelox.mds_using_random_search
 LINE, THREE, RAGGED, geodesic = [[1], [3]], np.eye(3), [[1, 2], [3]], gravelox.compute_geodesics
@@ -377,6 +400,12 @@ FAILURES = [
     (TypeError, ".*incompatible", HOOD.find_neighbors, ((0, 0), 1)),
     (TypeError, ".*incompatible", gravelox.Direction, ("0", 0)),
     (TypeError, ".*incompatible", gravelox.IDW, ([None],)),
+    (RuntimeError, r"(.|\n)*infeasible bound", ceres.solve, (COSTS, ABC, {"a": (2, 1)})),
+    (RuntimeError, r"(.|\n)*infeasible", ceres.vec.solve, ([], [W], {"w": ([3] * 3, [1] * 3)})),
+    (RuntimeError, "Invalid variable types$", gravelox.transiogram.jet.Transiogram, (W, W, [[W]])),
+    (TypeError, "map: .*|.*real number", gravelox.algebra.map, ([1.0], print)),
+    (TypeError, "kernel_matrix: .*callable", Table, ([[1]],)),
+    (TypeError, ".*incompatible", Table, (*[gravelox.ast.Variable("u", 1.0)] * 2, [[W]])),
     *[(TypeError, ".*No constructor defined!$", getattr(gravelox, name), ()) for name in NOT_MADE],
 ]
 
