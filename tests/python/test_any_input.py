@@ -105,10 +105,8 @@ def values_of(name, kind):
 
 
 # One of each owner's names that the docstrings do not tell apart, as of operators.
-ALIKE = {
-    (n.rpartition(".")[0].replace("Ptr", ""), str([o[2:] for o in FUNCTIONS[n]])): n
-    for n in FUNCTIONS
-}
+NAMES = [name for name in FUNCTIONS if "Ptr." not in name]
+ALIKE = {str((n.rpartition(".")[0], *[o[2:] for o in FUNCTIONS[n]])): n for n in NAMES}
 
 
 @pytest.mark.parametrize("name", ALIKE.values())

@@ -28,8 +28,8 @@ FORMULAS = """a + b; [[1, 2], [3, 4]] - a; 2.0 * a; s * a; a / s; v + w; v - w; 
     a.solve(b) -> solve(a, b); a.orthogonalize() -> (qr(a.T)[0] * diag(qr(a.T)[1])).T; v[1:9]; c[1]
     a.orthonormalize() -> (qr(a.T)[0] * sign(diag(qr(a.T)[1]))).T; c.SVD()[1] -> svd(c, False)[1]
     pow(c.SVD()[0], 2.0) -> svd(c, False)[0] ** 2; pow(c.SVD()[2], 2.0) -> svd(c, False)[2].T ** 2
-    d.determinant() -> det(d); v[::-1]; c[-1, 0]; c[1:]; c[::-2]; c.transpose(); v.slice(0, -1) -> v[0:-1]
-    c.slice(1, 3) -> c[1:3]; c.slice(0, 2, 1, 2) -> c[0:2, 1:2]"""
+    d.determinant() -> det(d); v[::-1]; c[-1, 0]; c[1:]; c[::-2]; c.transpose()
+    v.slice(0, -1) -> v[0:-1]; c.slice(1, 3) -> c[1:3]; c.slice(0, 2, 1, 2) -> c[0:2, 1:2]"""
 
 
 def texts(table):
@@ -151,7 +151,7 @@ def test_nodes(m, capfd):
     expected = """0 value scalar [0]; 1 variable scalar [0]; 1 variable vector [0, 0]
         2 transformation scalar [0]; 4 kernel scalar [0]; 5 function scalar [0]"""
     assert [[kind] for kind in kinds] == texts(expected)
-    assert [values(e.scalar) for e in nodes] == [0.5, 26.0, 0.0, 0.0, 0.0, 0.0]
+    assert [values(e.scalar) for e in nodes[:3]] == [0.5, 26.0, 0.0]
     nodes[0].print()
     v.print()
     line = "type = value variable_type = scalar value = 0.5\ntype = variable "

@@ -106,6 +106,7 @@ def test_variables_keep_what_they_hold():
     p, q = Variable("p", 7.0), Variable("q", 8.0)  # take values by their places
     solution = ceres.solve([Function.Scalar([p, q], p - 2.0 * q)], [b, a], {"a": (2, 3)}, 0)
     assert solution == ({"a": 2.0, "b": 0.0}, 8.0)
+    assert ceres.solve([Function.Scalar([b], b * b)], [b], {}, 0) == ({"b": 5.0}, 1860.5)
     assert [x.variable_type_name for x in (a, b)] == ["scalar", "vector"]
     assert [x.scalar.value for x in (a, p, q)] + b.vec.tolist() == [1.0, 7.0, 8.0, 5.0, 6.0]
     twins = [Variable("k", 1.0), Variable("k", 2.0)]
@@ -128,9 +129,7 @@ def test_validation(run):
     assert steps[0] == (START if run is ceres.solve else [[x] for x in START])
     for n, no in ((0, False), (1, ()), (3, None)):
         assert go(*[True] * n, no) == go(*[True] * 9, n_iterations=n) == steps[: n + 1]
-    assert len({*map(str, steps[:4])}) == 4
+    assert steps[0] != steps[1] != steps[2]
     with pytest.raises(StopIteration):
         go(True, True)
-    with pytest.raises(ValueError, match="truth value"):
-        go(np.zeros(2))
     assert [x.scalar.value for x in args] == START
