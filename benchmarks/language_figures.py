@@ -16,8 +16,8 @@ from gravelox import algebra, ast, ceres, jet
 from harness import Figure, advantage, check_same, per_item, slowdown
 from scipy.optimize import least_squares
 
-# The expression, its arguments and their values are those of kernels.cpp. Nodes are its leaves, each
-# in each of its places, and its operations.
+# The expression, its arguments and their values are those of kernels.cpp. Nodes are its leaves,
+# each in each of its places, and its operations.
 NAMES = ("lag", "nugget", "sill", "rate", "far_sill", "far_rate")
 VALUES = (0.7, 0.1, 0.4, -1.5, 0.5, -0.5)
 SIZES = {"nodes": 20, "operations": 11}
@@ -38,9 +38,7 @@ def deviation(m, *args):
 
 def plain(lag, nugget, sill, rate, far_sill, far_rate, exp=math.exp, sqrt=math.sqrt):
     """The same in Python over floats, as one expression."""
-    return sqrt(
-        nugget + sill * (1.0 - exp(lag * rate)) + far_sill * (1.0 - exp(lag * far_rate))
-    )
+    return sqrt(nugget + sill * (1.0 - exp(lag * rate)) + far_sill * (1.0 - exp(lag * far_rate)))
 
 
 def per_call(function, *args):

@@ -345,7 +345,7 @@ constexpr const char* function = R"(
 A body with arguments: what is compiled, fitted, and put into other expressions.
 
 As a node it gives what its body gives with the arguments' own values. Called with expressions it
-gives a node with those in the arguments' places; the arguments' own values do not change.
+gives a node with those in the arguments' places, which bind the arguments when it is evaluated.
 
 Examples
 --------
@@ -356,8 +356,8 @@ Examples
 >>> compiled([3.0, 4.0]), x.scalar  # a call leaves its inputs in the variables
 (5.0, 3.0)
 >>> t = Variable("t", 2.0)
->>> hypot([3.0 * t, 4.0 * t]).eval(), x.scalar  # not so a composition
-(10.0, 3.0)
+>>> hypot([3.0 * t, 4.0 * t]).eval(), x.scalar  # so does a composition
+(10.0, 6.0)
 >>> p, q = Variable("p", [0.0]), Variable("q", [0.0])
 >>> lag = Function.Vector([p, q], p - q)
 >>> lag.Transformation()([[3.0, 4.0], [0.0, 1.0]]).tolist(), lag.Kernel()([[3.0, 4.0], [0.0, 0.0]])
