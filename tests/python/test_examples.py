@@ -213,3 +213,26 @@ def test_planes_are_found_and_merged(tmp_path):
     dips = np.array(found, int)
     assert np.abs(dips[:, :2] - dips[:, 2:]).max() <= 3
     assert (tmp_path / "structures.png").read_bytes()[:4] == b"\x89PNG"
+
+
+def test_a_robust_fit_shrugs_off_outliers(tmp_path):
+    command = [sys.executable, EXAMPLES / "fit_expression.py", "--out", tmp_path]
+    ended = subprocess.run(command, capture_output=True, text=True, timeout=120, check=True)
+    farthest = re.search(r"^farthest from the first +(\S+) +(\S+) +(\S+)$", ended.stdout, re.M)
+    assert farthest
+    clean, squares, robust = map(float, farthest.groups())
+    assert clean == 0 < 5 * robust < squares
+    assert (tmp_path / "fit_expression.png").read_bytes()[:4] == b"\x89PNG"
+
+
+def test_rock_types_honour_holes(tmp_path):
+    command = [sys.executable, EXAMPLES / "rock_types.py", "--out", tmp_path]
+    ended = subprocess.run(command, capture_output=True, text=True, timeout=120, check=True)
+    assert re.search(r"^cells in holes as logged +100.00%$", ended.stdout, re.M)
+    shares = [
+        re.search(rf"^{who} +(\S+) +(\S+) +(\S+)$", ended.stdout, re.M)
+        for who in ("holes", "realisations")
+    ]
+    logged, simulated = (np.array(found.groups(), float) for found in shares if found)
+    assert np.abs(logged - simulated).max() < 0.03
+    assert (tmp_path / "rock_types.png").read_bytes()[:4] == b"\x89PNG"
