@@ -3,7 +3,6 @@
 
 #include <cstddef>
 #include <numeric>
-#include <optional>
 #include <string_view>
 #include <utility>
 
@@ -88,14 +87,11 @@ std::vector<std::size_t> find_neighbors(const Search& search, const location& x,
 class hard_data {
  public:
   hard_data(const location_list& locs, const std::vector<int>& values, const Ellipsoid& search_ani)
-      : locs_(locs), values_(values), search_ani_(search_ani) {
-    if (!locs.empty()) search_.emplace(locs, search_ani);
-  }
+      : locs_(locs), values_(values), search_ani_(search_ani), search_(locs, search_ani) {}
 
   /// Adds those near x that have a class, at their places in isotropic space.
   void condition(const location& x, const neighbor_limits& limits, conditioning_list& known) const {
-    if (!search_) return;
-    for (const std::size_t m : find_neighbors(*search_, x, limits)) {
+    for (const std::size_t m : find_neighbors(search_, x, limits)) {
       if (values_[m] >= 0) known.emplace_back(search_ani_.matrix() * locs_[m], values_[m]);
     }
   }
@@ -104,7 +100,7 @@ class hard_data {
   const location_list& locs_;
   const std::vector<int>& values_;
   const Ellipsoid& search_ani_;
-  std::optional<Neighborhood> search_;
+  Neighborhood search_;
 };
 
 /// The targets that have been visited. Ids of the search are steps of the path.

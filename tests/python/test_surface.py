@@ -14,11 +14,11 @@ FAMILIES = """set_fft_n_threads compute_angular_distance Kernel CartesianGrid Si
 SEARCH = "n_rays=600, n_scales=5, n_iterations=2000, n_iterations_without_upgrade=100"
 SEARCH = f"EllipsoidOptimizationParameters({SEARCH}, regularization_const=0.001)"
 OBJECTS = {SEARCH, "Ellipsoid(1, 1, 1, 0, 0, 0)", "IsomorphismParameters()"}  # ... in stubs
-IN_OTHER_WORDS = r"(?<=self): .*|: .*([|\[].*|Any|ArrayLike|object)$|\b[a-z]\w*\."
+WIDER = r"(?<=self): .*|: (?!.*(Real|Jet)).*([|\[].*|Any|ArrayLike|object)$| \|.*|list\[|\]|\b[a-z]\w*\."
 
 
 def signature(args):
-    names = [re.sub(IN_OTHER_WORDS, "", ast.unparse(a)) for a in args.args]
+    names = [re.sub(WIDER, "", ast.unparse(a)) for a in args.args]
     defaults = [*[""] * (len(names) - len(args.defaults)), *map(ast.unparse, args.defaults)]
     return [(name, "..." if d in OBJECTS else d) for name, d in zip(names, defaults)]
 
