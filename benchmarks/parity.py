@@ -610,6 +610,86 @@ def detections():
         )
 
 
+def parts(number):
+    """The values of a number or of a container, with the derivatives of jets."""
+    values = getattr(number, "value", number)
+    values = values if isinstance(values, float) else np.asarray(values)
+    return [values, number.partials] if hasattr(number, "partials") else values
+
+
+def functions(form, nodes, rows):
+    """Compiled functions of the two upper rows of a matrix, and of elements of the first."""
+    x, y = nodes.Variable("x", 0.0), nodes.Variable("y", 0.0)
+    names = "sin cos tan asin acos atan sinh cosh tanh exp sqrt abs log ln log10 log2 pow2 pow3"
+    names += " sigmoid spherical gaussian exponential"
+    bodies = [getattr(nodes, name)(x / y) for name in names.split()]
+    bodies += [nodes.pow(x / y, 2.3), x * y - 1.5 / (x + y)]
+    compiled = [nodes.Function.Scalar([x, y], body).ScalarFunction() for body in bodies]
+    yield f"ScalarFunction.{form}", [parts(one([rows[0][1], rows[0][0]])) for one in compiled]
+    u, v = nodes.Variable("u", rows[0]), nodes.Variable("v", rows[1])
+    lag = (u - v) / [7.0, 5.0, 2.0]
+    moved = nodes.Function.Vector([u, v], nodes.exp(lag) + u).Transformation()
+    yield f"Transformation.{form}", parts(moved(rows[:2]))
+    kept = nodes.Function.Scalar([u, v], nodes.exp(-1.0 * nodes.sqrt(lag * lag))).Kernel()
+    yield f"Kernel.{form}", parts(kept(rows[:2]))
+
+
+def matrix_algebra(form, table):
+    matrices = table * table, table.inverse(), table.transpose(), *table.SVD()
+    axes = table.orthogonalize(), table.orthonormalize()
+    solved = table.solve(table[1]), table.determinant()
+    yield f"algebra.{form}", [parts(result) for result in (*matrices, *axes, *solved)]
+
+
+def chains(form, nodes, transiogram, chain):
+    u, v = nodes.Variable("u", [0.0] * 3), nodes.Variable("v", [0.0] * 3)
+    lag = (u - v) / [40.0, 30.0, 10.0]
+    kept, shares = nodes.exp(-3.0 * nodes.sqrt(lag * lag)), (0.5, 0.3, 0.2)
+    table = [[p + (float(j == k) - p) * kept for k, p in enumerate(shares)] for j in range(3)]
+    transitions = transiogram.Transiogram(u, v, table)
+    yield f"Transiogram.{form}", [parts(transitions(*pair)) for pair in zip(SAMPLES[:20], TARGETS)]
+    data = TARGETS, SAMPLES, [int(hole) % 3 for hole in HOLES], transitions, ELLIPSOID
+    for selection, limits in {"count": {"knn": 6}, "radius": {"r": 0.3}}.items():
+        drawn = chain.simulation(*data, **limits, seed=4)
+        yield f"markov_chain.simulation.{selection}.{form}", drawn
+
+
+def expression_fits():
+    """A decay with outliers, by two scalars and by a vector and a scalar."""
+    nodes = gx.jet.ast
+    pairs = [(0.1 * i, 2.0 * math.exp(-0.05 * i) + (i % 7 == 0)) for i in range(1, 80)]
+    c, k = scalars = nodes.Variable("c", 0.3), nodes.Variable("k", -0.1)
+    a, _ = blocks = nodes.Variable("a", [0.3, 0.0]), k
+    decays = [c * nodes.exp(k * x) - y for x, y in pairs]
+    bent = [a * [1.0, x] * nodes.exp(k * x) - y for x, y in pairs]
+    costs = [nodes.Function.Scalar(scalars, body) for body in decays]
+    costs_of_blocks = [nodes.Function.Vector(blocks, body) for body in bent]
+    fits = {
+        "ceres.solve": (gx.ceres.solve, costs, scalars, {"k": (-0.4, 1.0)}),
+        "ceres.vec.solve": (gx.ceres.vec.solve, costs_of_blocks, blocks, {"k": ([-0.4], [1.0])}),
+    }
+    for threads in (1, 3):
+        for loss in (0.0, 0.2):
+            for name, (solve, *problem) in fits.items():
+                found, cost = solve(*problem, cauchy_loss=loss, n_threads=threads)
+                yield f"{name}.{loss}.{threads}", [cost, *found.values()]
+
+
+def language():
+    rows = [[4.0, 1.0, 0.3], [0.7, 3.0, -0.5], [0.2, -0.9, 2.0]]
+    along = np.eye(7).tolist()
+    jets = [
+        [gx.algebra.Jet(x, along[2 * i + j]) for j, x in enumerate(r)] for i, r in enumerate(rows)
+    ]
+    yield from functions("double", gx.ast, rows)
+    yield from functions("jet", gx.jet.ast, jets)
+    yield from matrix_algebra("double", gx.algebra.RealMatrix(rows))
+    yield from matrix_algebra("jet", gx.algebra.JetMatrix(jets))
+    yield from chains("double", gx.ast, gx.transiogram, gx.markov_chain)
+    yield from chains("jet", gx.jet.ast, gx.transiogram.jet, gx.markov_chain.jet)
+    yield from expression_fits()
+
+
 FAMILIES = (
     samplers,
     ellipsoids,
@@ -632,6 +712,7 @@ FAMILIES = (
     scaling,
     geodesics,
     detections,
+    language,
 )
 
 

@@ -14,7 +14,7 @@ FAMILIES = """set_fft_n_threads compute_angular_distance Kernel CartesianGrid Si
 SEARCH = "n_rays=600, n_scales=5, n_iterations=2000, n_iterations_without_upgrade=100"
 SEARCH = f"EllipsoidOptimizationParameters({SEARCH}, regularization_const=0.001)"
 OBJECTS = {SEARCH, "Ellipsoid(1, 1, 1, 0, 0, 0)", "IsomorphismParameters()"}  # ... in stubs
-WIDER = r"(?<=self): .*|: (?!.*(Real|Jet)).*([|\[].*|Any|ArrayLike|object)$| \|.*|list\[|\]|\b[a-z]\w*\."
+WIDER = r"(?<=self): .*|: (?!.*(Real|Jet)).*([|\[].*|Any|Like|object)$| \|.*|list\[|]|[a-z]\w*\."
 
 
 def signature(args):
