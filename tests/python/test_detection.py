@@ -143,3 +143,24 @@ def test_fusion(seed):
         for distance in (0, 0.1, 0.3, 0.5, 1, 1.1, 1e200, math.inf):
             found = grid_detector.cluster_fusion(locs, labels, distance)
             assert found == plain.fused(locs, labels, distance), distance
+
+
+FLAT, WIDE = gravelox.Ellipsoid(4, 4, 1, 90, 0, 0), gravelox.Ellipsoid(4, 4, 4, 90, 0, 0)
+
+
+@pytest.mark.parametrize(("metric", "n_layers"), [(FLAT, 2), (WIDE, 1)])
+def test_layers_under_an_ellipsoid(metric, n_layers, rng):
+    """Two above each other, which a search as high as it is wide joins."""
+    floor = [(i, j) for j in range(12) for i in range(12)] + rng.uniform(0, 0.3, (144, 2))
+    locs, layers = np.array([(x, y, z) for z in (0, 1.5) for x, y in floor]), np.repeat([0, 1], 144)
+    quarters, greys, hood = 2 * layers + (locs[:, 0] > 6), np.ones((288, 1)), Hood(locs, metric)
+    expected = (layers * (n_layers - 1)).tolist()
+    assert grid_detector.find_clusters(locs, greys, hood, 0.1, [1.0], 0.8, 0) == expected
+    D = gravelox.compute_angular_distance_between_clusters(metric, locs, quarters, 0.8)
+    beside = {(a, b) for a in range(4) for b in range(4) if n_layers == 1 or a // 2 == b // 2}
+    assert {(a, b) for a in D for b in D[a]} == beside
+    if n_layers == 2:
+        labels = gravelox.find_clusters(locs, metric, 0.8, 15, 0.1, 10)
+        assert {*labels[:144]} & {*labels[144:]} <= {-1} < {*labels, -1}
+        merged = gravelox.merge_clusters(D, locs, quarters, [], 20, 0.8, metric)
+        assert merged == (2 * layers).tolist()

@@ -109,6 +109,7 @@ def test_interpreter_lock(rng):
     locs, targets = rng.uniform(0, 100, (400, 3)), rng.uniform(0, 100, (15_000, 3))
     data, hood, sphere = locs[:, 0], gravelox.Neighborhood(locs), gravelox.Rotation(0, 0)
     covs, limit, one = [gravelox.Covariance.spherical(1e-4, sphere)], 16, {"n_threads": 1}
+    clumps, halves = (locs, locs, hood, 1e3, 2.0, 200.0, 0), (locs, [0, 1] * 200)
     vario = gravelox.compute_exp_variogram(locs, data, bandwidth=0.2, n_directions=20)
     for call in (
         lambda: gravelox.compute_simple_kriging(targets, locs, data, covs, 0.0, hood, limit, **one),
@@ -128,6 +129,8 @@ def test_interpreter_lock(rng):
         lambda: sphere.forward(np.tile(targets, (20, 1)), **one),
         lambda: gravelox.compute_variogram(locs, locs, data, 40, 40, 40, 9, 9, 1, **one),
         lambda: gravelox.GMMFitter(4, 30, 0.0).fit(targets),
+        lambda: gravelox.grid_detector.detect_grid_aligned_points(*clumps, **one),
+        lambda: gravelox.compute_angular_distance_between_clusters(sphere, *halves, 80.0),
     ):
         assert not runs_beside(call)
 

@@ -73,3 +73,44 @@ def test_flood_fill(n_neighbors, rng):
     found = gravelox.flood_fill_using_ball(points, n_neighbors, surface, 0.2)
     assert found == plain.flood_fill(points, n_neighbors, surface, 0.2)
     assert np.bincount(np.add(found, 1))[1:].max() > 20
+
+
+EAST, NORTH = Ellipsoid(10, 1, 1, 90, 0, 0), Ellipsoid(10, 1, 1, 0, 0, 0)
+# Radius or count, and how many steps one goes; the metric is 10 times as long to the east.
+REACHES = [(0.31, 0, 1), (0.61, 0, 2), (0, 3, 1), (0, 5, 2), (3e-9, 1, 0), (0.29, 0, 0), (0, 0, 0)]
+
+
+@pytest.mark.parametrize(("eps", "knn", "reach"), REACHES)
+def test_paths_along_a_line(eps, knn, reach, rng):
+    order = rng.permutation(9)
+    line, expected = np.outer(order, [3.0, 0, 0]), 3.0 * abs(order[:, None] - order)
+    expected[(expected > 0) & (reach == 0)] = 1e30
+    hood = Neighborhood(line, EAST)
+    table = gravelox.compute_geodesic_based_distance_matrix(line, hood, eps, knn, line)
+    assert_allclose(table, expected, rtol=1e-15)
+    start, end = order.argmin(), order.argmax()
+    path, length, distances = compute_geodesics(line, start, end, hood, eps, knn, line)
+    steps = np.diff(np.ravel([p[:1] for p in path])[::-1])
+    assert (length, sum(steps)) == ((24.0, 24.0) if reach else (1e30, 0.0))
+    assert all(0 < step <= 3 * max(reach, knn - 1) for step in steps)  # counts go on from an end
+    if reach:
+        assert (path[0].tolist(), path[-1].tolist()) == ([24, 0, 0], [0, 0, 0])
+        assert distances == expected[start].tolist()
+
+
+@pytest.mark.parametrize(("metric", "axis"), [(EAST, 0), (NORTH, 1)])
+def test_rows_of_a_grid_are_apart_under_an_ellipsoid(metric, axis):
+    x = np.transpose(np.indices((3, 3, 1)).reshape(3, 9)) * 1.0
+    table = gravelox.compute_geodesic_based_distance_matrix(x, Neighborhood(x, metric), 0.3, 0, x)
+    lag = abs(x[:, None] - x)
+    assert_allclose(table, np.where(lag[..., 1 - axis] == 0, lag[..., axis], 1e30))
+
+
+@pytest.mark.parametrize("n_neighbors", [0, 1])
+def test_floods_that_join_nothing(n_neighbors, rng):
+    points, surface = rng.uniform(-1, 1, (60, 3)), rng.uniform(-1, 1, (20, 3))
+    hood = Neighborhood(surface, METRIC)
+    at_wall = [len(hood.find_neighbors(p, 0.3)) > 0 for p in points]
+    found = gravelox.flood_fill_using_ball(points, n_neighbors, hood, 0.3)
+    assert found == np.where(at_wall, -1, np.arange(60)).tolist()
+    assert 0 < sum(at_wall) < 60

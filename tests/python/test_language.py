@@ -192,3 +192,159 @@ def test_deep_trees_live_on_without_python(m):
     calls = [made(n) for n in (20_000, 3, 99)]
     gc.collect()
     assert [values(call([0.25])) for call in calls] == [20_000.5 - 33, 2.5, 66.5]
+
+
+def moving(x, partials):
+    """A number, vector or matrix of jets."""
+    if np.ndim(x) == 0:
+        return algebra.Jet(x, partials)
+    kind = algebra.JetVector if np.ndim(x) == 1 else algebra.JetMatrix
+    return kind([moving(*pair) for pair in zip(x, partials)])
+
+
+LINEAR = """a.inverse() -> inv(a); a.determinant() -> det(a); a.solve(v) -> solve(a, v); v[::-1] / s
+    a.solve(b) -> solve(a, b); a.transpose() -> a.T; a * b -> a @ b; v * b -> v @ b; s / v; a * s
+    a.SVD()[1] -> svd(a)[1]; b.norm(0) -> norm(b, axis=0); b.var(1); b.stddev() -> b.std(); s * b
+    a.orthogonalize() -> (qr(a.T)[0] * diag(qr(a.T)[1])).T; v.norm() / s -> norm(v) / s; b / s
+    a.orthonormalize() -> (qr(a.T)[0] * sign(diag(qr(a.T)[1]))).T; v.dot(a * v) -> v @ a @ v
+    b.transpose() * a -> b.T @ a; (s - s * s) / (s + 3.0); 2.0 / (s * s)"""
+
+
+@pytest.mark.parametrize("n", range(1, 7))
+def test_linear_algebra_of_all_sizes(n, rng):
+    """Each element has its own seven partials."""
+    shapes = {"a": (n, n), "b": (n, 2), "v": (n,), "s": ()}
+    start = {x: rng.normal(size=shape) for x, shape in shapes.items()}
+    turns = {x: rng.normal(size=(*shape, 7)) for x, shape in shapes.items()}
+    jet = {x: moving(start[x], turns[x]) for x in shapes}
+
+    def expected(t, text):
+        named = {x: start[x] + turns[x] @ t for x in shapes}
+        return np.array(eval(text, vars(np) | vars(linalg) | named))
+
+    for text in texts(LINEAR):
+        found, wanted = eval(text[0], dict(jet)), expected(np.zeros(7), text[-1])
+        assert_allclose(values(found), wanted, rtol=1e-9, atol=1e-11, err_msg=text[0])
+        wanted = slopes(lambda t, text=text[-1]: expected(t, text), np.zeros(7), 1e-7)
+        near = {"rtol": 1e-4, "atol": 1e-5 * abs(wanted).max() + 1e-6}
+        assert_allclose(found.partials, wanted, **near, strict=True, err_msg=text[0])
+
+
+@pytest.mark.parametrize(("n", "rank"), [(n, rank) for n in range(1, 6) for rank in range(n)])
+def test_determinants_of_singular_matrices(n, rank, rng):
+    """Partials by cofactors; shuffled rows bring zeros to the places of pivots."""
+    whole = rng.integers(-3, 4, (n, rank)) @ rng.integers(-3, 4, (rank, n))
+    axes = (np.eye(n) * (np.arange(n) < rank))[rng.permutation(n)]
+    for m in (whole * 1.0, axes, axes[:, ::-1] * 7.0, np.ones((n, n)) * (n > 1 and rank > 0)):
+        turns, cofactors = rng.normal(size=(n, n, 7)), np.zeros((n, n))
+        for i, j in np.ndindex(n, n):
+            minor = np.delete(np.delete(m, i, 0), j, 1)
+            cofactors[i, j] = (-1) ** (i + j) * linalg.det(minor)
+        found = moving(m, turns).determinant()
+        assert_allclose(found.value, 0.0, atol=1e-9)
+        assert_allclose(found.partials, np.tensordot(cofactors, turns), rtol=1e-9, atol=1e-9)
+
+
+PARTS = ["::2", "::-1", "-4:-1", "5:1:-2", "-1:-9:-3", "3:1", "-99:99", "7:", ":-7", "2::3"]
+
+
+@KINDS
+@pytest.mark.parametrize("part", PARTS)
+def test_slices(part, kind, rng):
+    plain = {"v": rng.normal(size=7), "m": rng.normal(size=(7, 3))}
+    own = {"v": getattr(algebra, kind + "Vector")(plain["v"])}
+    own["m"] = getattr(algebra, kind + "Matrix")(plain["m"])
+    for text in (f"v[{part}]", f"m[{part}]", f"v[1:6][{part}]", f"m[{part}][::-1]"):
+        assert eval(text, own).tolist() == eval(text, plain).tolist()
+    for change in (f"v[{part}] = 2.5 * v[{part}][::-1]", f"v[{part}] = -1.5", "v[::-1] = v"):
+        exec(change, own)
+        exec(change, plain)
+        assert own["v"].tolist() == plain["v"].tolist()
+    for a, b in np.ndindex(9, 9):
+        text = f"v.slice({a - 9}, {b})", f"v[{a - 9}:{b}]"
+        assert eval(text[0], own).tolist() == eval(text[1], plain).tolist()
+        rows, both = own["m"].slice(b, a - 9), own["m"].slice(a - 9, 7, b - 4, 3)
+        assert rows.tolist() == plain["m"][b : a - 9].tolist()
+        assert both.tolist() == plain["m"][a - 9 : 7, b - 4 : 3].tolist()
+
+
+@pytest.mark.parametrize("name", [*FUNCTIONS, "-2.5", "0", "0.5", "1", "2", "3"])
+def test_jets_have_the_values_of_doubles(name):
+    x = np.array([-2, -1, -0.5, -0.0, 0, 0.3, 1, 1.5, 40, 800, np.inf, -np.inf, np.nan])
+    call = getattr(algebra, name, lambda v: algebra.pow(v, float(name)))
+    real, jet = call(algebra.RealVector(x)), call(algebra.JetVector(x))
+    assert_array_equal(jet, real)
+    assert_array_equal(call(algebra.JetMatrix([x, x])), [real, real])
+    assert not np.nan_to_num(jet.partials, posinf=0.0, neginf=0.0).any()
+    if name in FUNCTIONS:
+        assert_array_equal([call(float(a)) for a in x], real)
+        assert_array_equal([call(algebra.Jet(a)).value for a in x], real)
+
+
+@BOTH
+def test_arrays_of_one_element_are_vectors(m):
+    one, v, x = np.array([4.0]), m.Variable("v", [3.0, 4.0]), m.Variable("x", 1.0)
+    for vector in (one, one.astype(int), one.astype("f4"), [4.0], (4,), one[::-1]):
+        made = m.Variable("", vector), m.Value(vector), v - np.tile(vector, 2)
+        assert [node.variable_type_name for node in made] == ["vector"] * 3
+        assert (made[1].vec.tolist(), algebra.sqrt(vector).tolist()) == ([4.0], [2.0])
+        for wrong in (v.eval, x.eval, algebra.Jet):
+            with pytest.raises(TypeError):
+                wrong(vector)
+        assert (v.variable_type_name, x.variable_type_name) == ("vector", "scalar")
+    for scalar in (np.array(4.0), np.array(4), np.float32(4), np.int8(4), np.float64(4), 4):
+        made = m.Variable("", scalar), m.Value(scalar), x * scalar
+        assert [node.variable_type_name for node in made] == ["scalar"] * 3
+        assert (values(made[1].eval()), values(made[2].eval()), algebra.sqrt(scalar)) == (4, 4, 2)
+
+
+@pytest.mark.parametrize("x", [[1.0, 2.0], [[1.0, 2.0], [3.0, 4.0]]], ids=np.ndim)
+@KINDS
+def test_callbacks_that_give_no_number(kind, x):
+    calls, made = [], getattr(algebra, kind + ("Vector", "Matrix")[np.ndim(x) - 1])(x)
+    for wrong in (None, "1", [1.0], made):
+        calls.clear()
+        with pytest.raises(TypeError, match="must be real number"):
+            algebra.map(made, lambda x, wrong=wrong: calls.append(x) or wrong)
+        assert len(calls) == 1
+
+
+@BOTH
+def test_functions_plan_again_when_kinds_change(m):
+    """A scalar body goes on with the scalar that a variable had before it became a vector."""
+    x, y = m.Variable("x", 2.0), m.Variable("y", 3.0)
+    made, bare = m.Function.Scalar([x, y], x * y), m.Function.Scalar([x], x).ScalarFunction()
+    call, kernel, transform = made.ScalarFunction(), made.Kernel(), made.Transformation()
+    for _ in range(2):
+        x.eval(2.0)
+        assert [values(f) for f in (call([5, 2]), kernel([[6], [2]]), bare([3]))] == [10, 12, 3]
+        x.eval_vector([7.0, 8.0])
+        assert [values(f) for f in (call([5, 2]), x.scalar)] == [6.0, 3.0]
+        assert (x.vec.tolist(), values(bare([6.0]))) == ([5.0, 8.0], 10.0)
+        assert (values(kernel([[4, 9]])), x.vec.tolist()) == (6.0, [4.0, 9.0])
+        assert transform([[1, 2, 3], [4]]).tolist() == [12.0]
+    v = m.Variable("v", [3.0, 4.0])
+    square = m.Function.Scalar([v], v * v).ScalarFunction()
+    assert [values(square(args)) for args in ([], [0.0])] == [25.0, 16.0]
+    v.eval(9.0)
+    assert (values(square([5.0])), v.vec.tolist(), values(v.scalar)) == (16.0, [0.0, 4.0], 5.0)
+
+
+@BOTH
+def test_functions_that_share_a_body(m):
+    x, y = m.Variable("x", 0.0), m.Variable("y", 0.0)
+    body, other = x - 2.0 * y, m.Function.Scalar([y], y * y)
+    orders = [m.Function.Scalar(args, body) for args in ([x, y], [y, x], [x])]
+    f, g, h = (made.ScalarFunction() for made in orders)
+    both = m.Function.Scalar([x, y], orders[0]([y, x]) + other([x + body])).ScalarFunction()
+    found = [f([1, 2]), g([1, 2]), f([5]), h([7]), both([2, 1]), g([4]), f([1, 2]), body.eval()]
+    assert [values(one) for one in found] == [-3, 0, 3, 5, 1, -7, -3, -3]
+
+
+def test_costs_keep_the_partials_of_constants():
+    x, two, one = jets.Variable("x", 1.0), *(algebra.Jet(n, np.arange(7.0)) for n in (2, 1))
+    made = jets.Function.Scalar([x], x * jets.Value(two) + one)
+    for call in (made.ScalarFunction(), jets.ScalarCost(made)):
+        found = call([algebra.Jet(3.0, np.eye(7)[0])])
+        assert (found.value, found.partials.tolist()) == (7.0, [2, 4, 8, 12, 16, 20, 24])
+        assert (x.eval(0.0).value, call([3.0]).value, x.scalar.value) == (0.0, 7.0, 3.0)

@@ -10,7 +10,7 @@ from gravelox import ast, markov_chain, transiogram
 from numpy.testing import assert_allclose
 from oracles.language import simulated_classes
 from oracles.variography import Engine
-from scipy import special
+from scipy import special, stats
 
 SHARES, PLAIN = np.array([0.5, 0.3, 0.2]), gravelox.Ellipsoid(1, 1, 1, 90, 0, 0)
 METRIC, RANGES = gravelox.Ellipsoid(20, 10, 4, 30, 10, 0), [30.0, 10.0, 2.0]
@@ -117,3 +117,78 @@ def test_frequencies_of_transitions(rng):
         spread = np.sqrt((rows * (1.0 - rows))[part].sum(axis=0))
         assert (abs(off[part].sum(axis=0)) < 4.0 * spread).all()
     assert_allclose(np.bincount(found) / 4000, SHARES, atol=0.12)
+
+
+@BOTH
+def test_entries_that_are_no_number(m, module, chain, rng):
+    """Places whose probabilities are NaN stay without a class and condition nothing."""
+    targets, samples = rng.uniform(0, 30, (150, 3)), rng.uniform(0, 30, (5, 3))
+
+    def row(c, p, x):
+        return transitions(c, p, x) * (np.nan if x[0] > 20 and c == 1 else 1.0)
+
+    def entry(c, k):
+        return lambda u, v: row(c, u.tolist(), v.tolist())[k]
+
+    table = module.Transiogram([[entry(c, k) for k in range(3)] for c in range(3)])
+    assert str(table(1, [0.0] * 3, [25.0, 0.0, 0.0])) == "[nan, nan, nan]"
+    expected = simulated_classes(targets, samples, [0, 1, 2, 1, 0], row, METRIC, 4, 32, 3, 11)
+    found = chain.simulation(targets, samples, [0, 1, 2, 1, 0], table, METRIC, -1, 4, seed=11)
+    assert found == expected
+    assert {*np.array(found)[targets[:, 0] <= 20]} == {0, 1, 2}
+    assert 5 < found.count(-1) < 60
+
+
+@BOTH
+def test_entries_of_other_kinds(m, module, chain):
+    """Neither answers that are no number nor vectors are entries; each callable is called once."""
+    for wrong in (None, "1", [1.0], np.ones(2)):
+        calls = []
+        table = module.Transiogram([[lambda u, v, w=wrong, calls=calls: calls.append(u) or w] * 2])
+        for classes in ((0, 0), (0,), ()):
+            calls.clear()
+            with pytest.raises(TypeError):
+                table(*classes, [0.0] * 3, [1.0] * 3)
+            assert len(calls) == 1
+    u, v = m.Variable("u", [0.0] * 3), m.Variable("v", [0.0] * 3)
+    for rows in ([[u - v]], [[u * v], [u * v, m.exp(u)]], [[m.Value([1.0])]]):
+        with pytest.raises(RuntimeError, match=r"^Invalid variable types$"):
+            module.Transiogram(u, v, rows)
+
+
+@BOTH
+def test_tables_survive_other_kinds_of_their_variables(m, module, chain):
+    (table, u, v), p, x = expressions(m, module), [1.0, 2.0, 3.0], [8.0, 4.0, 2.0]
+    before = np.array(table(p, x))
+    for change in (u.eval, v.eval):
+        change(7.0)
+        assert_allclose(np.array(table(2, p, x)), before[2], rtol=0)
+        change(7.0)
+        assert_allclose(np.array(table(p, x)), before, rtol=0)
+    u.eval_vector([])
+    assert_allclose(np.array(table(1, p, x)), before[1], rtol=0)
+    assert (u.variable_type_name, u.vec.tolist(), v.vec.tolist()) == ("vector", p, x)
+
+
+@BOTH
+def test_proportions(m, module, chain):
+    """Apart from each other targets are drawn evenly; beside each other by the first one's row."""
+    rows = [[0.7, 0.2, 0.1], [0.3, 0.3, 0.4], [0.1, 0.5, 0.4]]
+    call = module.Transiogram([[lambda u, v, x=x: x for x in row] for row in rows])
+    apart, pair = [(1e3 * i, 0, 0) for i in range(900)], [(0, 0, 0), (1, 0, 0)]
+    found = chain.simulation(apart, [], [], call, PLAIN, 0.5, seed=5)
+    path, draws = [*range(900)], Engine(5)
+    draws.shuffle(path)
+    assert [found[i] for i in path] == [draws.word() % 3 for _ in path]
+    assert stats.chisquare(np.bincount(found)).pvalue > 1e-3
+    counts = np.zeros((3, 3))
+    for seed in range(1500):
+        order = [0, 1]
+        Engine(seed).shuffle(order)
+        both = chain.simulation(pair, [], [], call, PLAIN, seed=seed)
+        counts[both[order[0]], both[order[1]]] += 1
+    for row, share in zip(counts, rows):
+        assert stats.chisquare(row, row.sum() * np.array(share)).pvalue > 1e-3
+    certain = module.Transiogram([[lambda u, v, x=x: x for x in row] for row in np.eye(3).tolist()])
+    alike = chain.simulation(apart, [(5, 0, 0)], [2], certain, PLAIN, knn=3)
+    assert alike == [2] * 900

@@ -168,3 +168,38 @@ def test_a_lognormal_sample_becomes_normal_and_comes_back(rng):
     pair = fit_pair(np.exp(z / 2), z)
     assert_allclose(pair.forward(np.exp(u / 2)), u, atol=0.1)
     assert_allclose(pair.backward(pair.forward(np.exp(u / 2))), np.exp(u / 2), rtol=0.05)
+
+
+@pytest.mark.parametrize("seed", range(10))
+def test_lognormal_samples_and_their_scores(seed):
+    """Within 0.1 of the scores there and within a tenth back, from 120 samples and few kernels."""
+    scores, u = np.random.default_rng(seed).normal(size=120), np.linspace(-1.2, 1.2, 40)
+    settings = {"n_centers_forward": 9, "n_centers_backward": 12, "n_partitions": 8}
+    settings = gravelox.IsomorphismParameters(**settings, n_iterations=30, seed=seed, n_threads=1)
+    pair = fit_pair(np.exp(scores / 2), scores, settings)
+    there = pair.forward(np.exp(u / 2))
+    assert abs(np.array(there) - u).max() < 0.1
+    assert abs(pair.backward(there) / np.exp(u / 2) - 1.0).max() < 0.1
+
+
+PLACES, IMAGES = [(0.0, 0.0), (1.0, 0.0)], [(1.0,), (2.0,)]
+UNFIT = [(PLACES[:1], IMAGES, "weights: .*1 values.* got 2"), ([], [], "centers: .*at least 1")]
+UNFIT += [([PLACES[0], (1.0,)], IMAGES, "centers: .*2 coordinates, got 1 at position 1")]
+UNFIT += [(PLACES, [(1.0,), (2.0, 3.0)], "weights: .*1 coordinates, got 2 at position 1")]
+UNFIT += [([(0.0,), (1.0,)], IMAGES, "[xX]: .*1 coordinates, got 2")]
+
+
+@pytest.mark.parametrize(("centers", "weights", "message"), UNFIT)
+def test_radial_maps_of_lists_that_do_not_fit(centers, weights, message):
+    made, kept = (
+        OptimizedNDProjection(centers, [], weights),
+        OptimizedNDProjection(PLACES, [], IMAGES),
+    )
+    before = kept.project([0.5, 0.5])
+    kept.centers, kept.weights = centers, weights
+    for one in (made, kept):
+        for points in ([0.5, 0.5], [(0.5, 0.5)]):
+            with pytest.raises(ValueError, match=message):
+                one.project(points)
+    kept.centers, kept.weights, kept.scales = PLACES, IMAGES, [np.nan] * 7
+    assert_array_equal(kept.project([0.5, 0.5]), before)

@@ -10,7 +10,8 @@ import pytest
 from gravelox import DistPair, dense_MDS, sparse_MDS
 from numpy.testing import assert_allclose, assert_array_equal
 from oracles import projection as plain
-from scipy.spatial.distance import cdist, pdist
+from scipy.optimize import least_squares
+from scipy.spatial.distance import cdist, pdist, squareform
 
 search = gravelox.mds_using_random_search
 
@@ -101,3 +102,23 @@ def test_errors_of_a_search(data, capfd):
     run(n_iterations=2**31 - 1, time_limit=0, debug=True, target_e=0)
     assert 1 < time.monotonic() - start < 9
     assert "\nStopping due to time limit at iteration " in capfd.readouterr().out
+
+
+def test_forms_find_the_same_minimum(rng):
+    """Of distances that no configuration has; with one residual the solver comes less far."""
+    x = rng.uniform(0, 9, (8, 2))
+    noisy = pdist(x) * rng.uniform(0.8, 1.2, 28)
+    table = squareform(noisy)
+    (i, j), start = np.triu_indices(8, 1), x + rng.normal(0, 0.1, x.shape)
+
+    def errors(flat):
+        return plain.relative_errors(np.reshape(flat, (8, 2)), i, j, noisy)
+
+    best = least_squares(errors, start.ravel(), xtol=1e-13, ftol=1e-13, gtol=1e-13)
+    found = [form(2, 8, table, start, 300, ntries=1) for form in (dense_MDS, sparse)]
+    for one in found:
+        assert sum(errors(one) ** 2) / 2 == pytest.approx(best.cost, rel=1e-5)
+        assert_allclose(pdist(one), pdist(best.x.reshape(8, 2)), rtol=1e-2)
+    single = dense_MDS(2, 8, table, start, 300, ntries=1, optimize_mean=True)
+    costs = [np.sum(errors(one) ** 2) / 2 for one in (start, single)]
+    assert best.cost * (1 - 1e-9) < costs[1] < costs[0]
