@@ -28,8 +28,8 @@ std::string to_text(covariance_type type);
 /// The type of one of these words; any other text is a nugget.
 covariance_type to_covariance_type(std::string_view text);
 
-/// The type of one of these words; throws std::invalid_argument for any other text of an argument of
-/// this name.
+/// The type of one of these words; throws std::invalid_argument for any other text of an argument
+/// of this name.
 covariance_type to_known_type(std::string_view name, std::string_view text);
 
 /// The type of "spherical", "gaussian" or "exponential", the shapes that a fit can take; throws
